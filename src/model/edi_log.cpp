@@ -1,0 +1,86 @@
+#include "model/edi_log.h"
+
+#include <algorithm>
+
+#include "model/lines.h"
+#include "model/text.h"
+
+namespace velmar {
+
+HeaderRow ParseHeaderRow(std::string_view row) {
+  return {Upper(Left(row, 5)), Mid(row, edi::kValueColumn)};
+}
+
+QsoRecord SplitQso(std::string_view row) {
+  QsoRecord qso;
+  std::size_t begin = 0;
+  for (std::string_view& field : qso.fields) {
+    const std::size_t end = std::min(row.find(';', begin), row.size());
+    field = Trim(row.substr(begin, end - begin));
+    if (end == row.size()) {
+      return qso;
+    }
+    begin = end + 1;
+  }
+  qso.tail = row.substr(begin - 1);
+  return qso;
+}
+
+std::string JoinQso(const QsoRecord& qso) {
+  std::string row;
+  for (const std::string_view field : qso.fields) {
+    row += field;
+    row += ';';
+  }
+  row.pop_back();
+  row += qso.tail;
+  return row;
+}
+
+std::string_view FindOwnCall(const std::vector<std::string_view>& lines) {
+  const std::size_t last = std::min(lines.size(), edi::kMostHeaderRows);
+  for (std::size_t i = 0; i < last; ++i) {
+    if (Upper(Left(lines[i], 5)) == "PCALL") {
+      return Mid(lines[i], edi::kValueColumn);
+    }
+  }
+  return {};
+}
+
+std::string_view OwnCallBase(std::string_view call) {
+  const std::size_t slash = call.find('/') + 1;  // counted from 1; 0 for none
+  if (slash >= 2 && slash <= 4) {
+    return Mid(call, slash + 1);
+  }
+  return slash > 4 ? Left(call, slash - 1) : call;
+}
+
+bool MarkedInvalid(std::string_view row) {
+  return Holds(row, "ERROR") || Holds(row, "DELETED");
+}
+
+bool MarkedDuplicate(std::string_view row) {
+  return row.ends_with(";D");
+}
+
+EdiLog ParseEdiLog(std::string_view text) {
+  EdiLog log;
+  log.lines = SplitLines(text);
+  log.own_call = FindOwnCall(log.lines);
+  bool in_qsos = false;
+  for (const std::string_view line : log.lines) {
+    if (Holds(line, edi::kEnd)) {
+      in_qsos = false;
+      log.recalculated = log.recalculated || line.starts_with(edi::kRecalculated);
+    } else if (Holds(line, edi::kQsoRecords)) {
+      in_qsos = true;
+    } else if (in_qsos && line.size() >= edi::kShortestQso) {
+      log.qsos.push_back(line);
+    } else if (log.own_locator.empty() && Holds(line, "PWWLo")) {
+      log.own_locator = Trim(Mid(line, edi::kValueColumn));
+    }
+  }
+  return log;
+}
+
+}  // namespace velmar

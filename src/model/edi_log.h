@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+/// The REG1TEST log format: a header of rows "key=value" by fixed row numbers, remarks, the row
+/// "[QSORecords;N]", one row a QSO, and the row "[END;...]".
+namespace edi {
+
+inline constexpr std::string_view kFirstRow = "[REG1TEST;1]";
+inline constexpr std::string_view kQsoRecords =
+    "QSORecords";                                 ///< held by the row ahead of the QSOs
+inline constexpr std::string_view kEnd = "[END";  ///< held by the row behind the QSOs
+inline constexpr std::string_view kRecalculated = "[END; recalculated for VLM]";
+inline constexpr std::size_t kValueColumn = 7;        ///< where the value of a header row begins
+inline constexpr std::size_t kSemicolons = 14;        ///< of a whole QSO row
+inline constexpr std::size_t kShortestQso = 7;        ///< rows of fewer characters are passed over
+inline constexpr std::size_t kMostHeaderRows = 1000;  ///< lines that are looked at for the own call
+
+}  // namespace edi
+
+struct HeaderRow {
+  std::string key;         ///< the first 5 characters, in capitals
+  std::string_view value;  ///< the text from column 7 on
+};
+
+/// Cuts a header row.
+HeaderRow ParseHeaderRow(std::string_view row);
+
+/// One QSO row. The first 11 of the 15 fields are parsed and trimmed; what follows the points stays
+/// one text, from its ";" on, and is never parsed.
+struct QsoRecord {
+  static constexpr std::size_t kFields = 11;
+
+  std::array<std::string_view, kFields> fields;
+  std::string_view tail;
+
+  // The fields by their content, in the order of the row.
+  std::string_view date() const { return fields[0]; }     ///< YYMMDD
+  std::string_view time() const { return fields[1]; }     ///< HHMM, UTC
+  std::string_view call() const { return fields[2]; }     ///< of the other station
+  std::string_view locator() const { return fields[9]; }  ///< of the other station
+  std::string_view points() const { return fields[10]; }  ///< km
+
+  void set_call(std::string_view call) { fields[2] = call; }
+  void set_points(std::string_view points) { fields[10] = points; }
+};
+
+/// Cuts a QSO row at its ";". A row with fewer fields has empty ones at the end.
+QsoRecord SplitQso(std::string_view row);
+
+/// The row of a QSO: its fields parted by ";", then the tail.
+std::string JoinQso(const QsoRecord& qso);
+
+/// The call of a log as its "PCALL" row (in any case of letters) declares it, blanks included.
+/// Empty when none of the first 1000 lines is that row.
+std::string_view FindOwnCall(const std::vector<std::string_view>& lines);
+
+/// A call without its "/" part. A "/" at position 2, 3 or 4 has a prefix ahead of it and the call
+/// behind it; a later one has the call ahead of it.
+std::string_view OwnCallBase(std::string_view call);
+
+/// Whether a row holds the word "ERROR" or "DELETED", with which a writer takes a QSO back.
+bool MarkedInvalid(std::string_view row);
+
+/// Whether a row ends as its writer's duplicates do.
+bool MarkedDuplicate(std::string_view row);
+
+/// A log file by its parts. The views point into the text that it was parsed from.
+struct EdiLog {
+  std::vector<std::string_view> lines;  ///< all of them, as they stand
+  std::string_view own_call;            ///< as FindOwnCall
+  std::string_view own_locator;         ///< value of the first row that holds "PWWLo", trimmed
+  std::vector<std::string_view> qsos;   ///< the QSO rows, without those passed over
+  bool recalculated = false;            ///< the end row bears the mark of the recalculation
+};
+
+EdiLog ParseEdiLog(std::string_view text);
+
+}  // namespace velmar

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmar {
+
+inline constexpr std::string_view kLineEnd = "\r\n";
+
+/// Walks through the lines of a text. CR LF, LF and CR alone each end a line; a text that ends in a
+/// line end has no further line behind it. The lines are views into the text.
+class LineReader {
+ public:
+  explicit LineReader(std::string_view text) : rest_(text) {}
+
+  /// Puts the next line into `line`; false when there is none.
+  bool Next(std::string_view& line);
+
+ private:
+  std::string_view rest_;
+};
+
+/// All lines of a text, as LineReader gives them.
+std::vector<std::string_view> SplitLines(std::string_view text);
+
+/// The last line of a text; empty when it has none.
+std::string_view LastLine(std::string_view text);
+
+}  // namespace velmar

@@ -1,0 +1,57 @@
+#include "model/locator.h"
+
+#include <cmath>
+
+#include "platform/error.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr bool Between(char c, char low, char high) {
+  return c >= low && c <= high;
+}
+
+}  // namespace
+
+bool LocatorValid(std::string_view text) {
+  return text.size() == 6 && Between(text[0], 'A', 'R') && Between(text[1], 'A', 'R') &&
+         Between(text[2], '0', '9') && Between(text[3], '0', '9') && Between(text[4], 'A', 'X') &&
+         Between(text[5], 'A', 'X');
+}
+
+Position LocatorPosition(std::string_view locator) {
+  const auto letter = [&](std::size_t at) { return static_cast<double>(locator[at] - 'A'); };
+  const auto digit = [&](std::size_t at) { return static_cast<double>(locator[at] - '0'); };
+  const double longitude = letter(0) * 20 - 180 + 2 * digit(2) + letter(4) / 12 + 1.0 / 24;
+  const double latitude = letter(1) * 10 - 90 + digit(3) + letter(5) / 24 + 1.0 / 48;
+  return {longitude * kDegree, latitude * kDegree};
+}
+
+int Distance(const Position& own, const Position& dx, double earth_radius) {
+  const double dlon = dx.longitude - own.longitude;
+  const double c = std::sin(dx.latitude) * std::sin(own.latitude) +
+                   std::cos(own.latitude) * std::cos(dx.latitude) * std::cos(dlon);
+  if (1 - c * c < 0) {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "the root of a negative number");
+  }
+  const double s = std::sqrt(1 - c * c);
+  if (s == 0) {
+    throw RunTimeError(ErrorNumber::kDivisionByZero, "two places opposite each other");
+  }
+  // The arc cosine written with the arc tangent: it fixes the last digits.
+  const double angle = kPi / 2 - std::atan(c / s);
+  return static_cast<int>(std::floor(earth_radius * angle + 0.6));
+}
+
+int QsoPoints(std::string_view own_locator, std::string_view dx_locator) {
+  if (dx_locator == own_locator) {
+    return 1;
+  }
+  if (!LocatorValid(dx_locator)) {
+    return 0;
+  }
+  return Distance(LocatorPosition(own_locator), LocatorPosition(dx_locator));
+}
+
+}  // namespace velmar

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace velmar {
+
+/// The text helpers that every format rests on. Texts are bytes in code page 1252; positions count
+/// from 1 and are clamped to the text, so that a short row gives a short or empty field.
+
+/// The first `count` characters.
+constexpr std::string_view Left(std::string_view text, std::size_t count) {
+  return text.substr(0, count);
+}
+
+/// `count` characters from position `start` (counted from 1) on, or all that follow.
+constexpr std::string_view Mid(std::string_view text, std::size_t start,
+                               std::size_t count = std::string_view::npos) {
+  return start > text.size() ? std::string_view() : text.substr(start - 1, count);
+}
+
+/// The last `count` characters.
+constexpr std::string_view Right(std::string_view text, std::size_t count) {
+  return count >= text.size() ? text : text.substr(text.size() - count);
+}
+
+/// The text without the blanks (and blanks alone) at its front, at its end, or at both.
+constexpr std::string_view LTrim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+constexpr std::string_view RTrim(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+constexpr std::string_view Trim(std::string_view text) {
+  return LTrim(RTrim(text));
+}
+
+/// Whether `text` holds `part` anywhere. Like every comparison here it minds the case.
+constexpr bool Holds(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
+/// Capitals and small letters of code page 1252.
+std::string Upper(std::string_view text);
+std::string Lower(std::string_view text);
+
+/// The text cut, or padded with blanks on the right, to exactly `width` characters.
+std::string Pad(std::string_view text, std::size_t width);
+
+/// A number as text with one blank ahead when it is not negative: " 5", "-5". Column layouts rest
+/// on that blank.
+std::string Str(long long number);
+
+/// The number that stands at the start of a text, behind blanks: a sign, digits and a decimal
+/// point, each if it is there. 0 when there is none.
+double Val(std::string_view text);
+
+/// A call in capitals, padded or cut to 12 characters: its form in the store files.
+std::string Call12(std::string_view call);
+
+/// A locator in capitals, cut to 6 characters.
+std::string Loc6(std::string_view locator);
+
+/// The text without any of its blanks.
+std::string WithoutBlanks(std::string_view text);
+
+/// The text with every `from` turned into `to`.
+std::string Replaced(std::string_view text, char from, char to);
+
+/// Texts and numbers behind one another. A number has no blanks of its own here.
+template <typename... Parts>
+std::string Join(const Parts&... parts) {
+  std::string joined;
+  const auto add = [&joined](const auto& part) {
+    if constexpr (requires { std::to_string(part); }) {
+      joined += std::to_string(part);
+    } else {
+      joined += part;
+    }
+  };
+  (add(parts), ...);
+  return joined;
+}
+
+}  // namespace velmar

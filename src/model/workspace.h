@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmar {
+
+/// The code of the contest's category.
+inline constexpr std::string_view kCategory = "2IT";
+
+/// The folders and files of the program, by their fixed names: blanks and capitals belong to them.
+/// Every file name that the system uses is made here.
+class Workspace {
+ public:
+  /// `base` is the folder of the program itself.
+  explicit Workspace(std::string base) : base_(std::move(base)) {}
+
+  const std::string& base() const { return base_; }
+  std::string store() const { return base_ + "/Trofeo_Velmar"; }
+  std::string category(std::string_view category = kCategory) const {
+    return store() + "/" + std::string(category);
+  }
+  std::string to_recalculate() const { return base_ + "/01 Log da RICALCOLARE"; }
+  std::string recalculated() const { return base_ + "/02 Log ricalcolati"; }
+  std::string to_insert() const { return base_ + "/03 Log da inserire"; }
+  std::string wrong_logs() const { return store() + "/Log errati"; }
+  std::string repeated_logs() const { return store() + "/Log doppi"; }
+  std::string to_check_again() const { return store() + "/Log da ricontrollare"; }
+
+  std::string settings() const { return base_ + "/VartoVLM.ini"; }
+  std::string call_book() const { return base_ + "/Varto_book.bin"; }
+  std::string month_to_check() const { return store() + "/mese_verifica.dat"; }
+  std::string category_month() const { return category() + "/mese.dat"; }
+  std::string refused_names() const { return store() + "/file_non_corretti.dat"; }
+  std::string participants() const { return category() + "/2IT partecipanti.par"; }
+  std::string total_library() const { return category() + "/2ITlibreria_totale.tot"; }
+
+  /// The contest date of a category, of which the first three characters count.
+  std::string contest_date(std::string_view category_code) const;
+
+  /// The classification of a month such as "GENNAIO 2025".
+  std::string classification(std::string_view month) const;
+
+ private:
+  std::string base_;
+};
+
+}  // namespace velmar

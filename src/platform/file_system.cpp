@@ -1,0 +1,91 @@
+#include "platform/file_system.h"
+
+#include <algorithm>
+
+#include "platform/error.h"
+
+namespace velmar {
+
+namespace {
+
+/// Small letters of code page 1252, byte by byte.
+constexpr unsigned char Fold(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  if ((byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7)) {
+    return byte + 0x20;
+  }
+  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) {
+    return byte + 0x10;
+  }
+  return byte == 0x9F ? 0xFF : byte;
+}
+
+}  // namespace
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+  if (pattern == "*.*") {
+    return true;
+  }
+  std::size_t at = 0;
+  std::size_t in_pattern = 0;
+  std::size_t star = std::string_view::npos;
+  std::size_t resume = 0;
+  while (at < name.size()) {
+    if (in_pattern < pattern.size() && pattern[in_pattern] == '*') {
+      star = in_pattern++;
+      resume = at;
+    } else if (in_pattern < pattern.size() &&
+               (pattern[in_pattern] == '?' || Fold(pattern[in_pattern]) == Fold(name[at]))) {
+      ++in_pattern;
+      ++at;
+    } else if (star != std::string_view::npos) {
+      in_pattern = star + 1;
+      at = ++resume;
+    } else {
+      return false;
+    }
+  }
+  return pattern.find_first_not_of('*', in_pattern) == std::string_view::npos;
+}
+
+bool NameLess(std::string_view left, std::string_view right) {
+  const auto [l, r] = std::mismatch(left.begin(), left.end(), right.begin(), right.end(),
+                                    [](char a, char b) { return Fold(a) == Fold(b); });
+  if (l != left.end() && r != right.end()) {
+    return Fold(*l) < Fold(*r);
+  }
+  return left.size() != right.size() ? left.size() < right.size() : left < right;
+}
+
+bool HoldsFiles(FileSystem& files, const std::string& folder, std::string_view pattern) {
+  return files.FolderExists(folder) && !files.List(folder, pattern).empty();
+}
+
+std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& path) {
+  try {
+    return files.ReadAll(path);
+  } catch (const RunTimeError& error) {
+    if (error.number() != ErrorNumber::kFileNotFound) {
+      throw;
+    }
+    return std::nullopt;
+  }
+}
+
+void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern) {
+  for (const std::string& name : files.List(folder, pattern)) {
+    files.Remove(folder + "/" + name);
+  }
+}
+
+void RemoveIfThere(FileSystem& files, const std::string& path) {
+  try {
+    files.Remove(path);
+  } catch (const RunTimeError& error) {
+    if (error.number() != ErrorNumber::kFileNotFound) {
+      throw;
+    }
+  }
+}
+
+}  // namespace velmar

@@ -1,0 +1,87 @@
+#include "platform/form.h"
+
+#include <algorithm>
+
+namespace velmar {
+
+bool Control::Reachable() const {
+  for (const Control* control = this; control != nullptr; control = control->menu) {
+    if (!control->visible || !control->enabled) {
+      return false;
+    }
+  }
+  return form_.visible();
+}
+
+void Control::Click() {
+  if (on_click) {
+    on_click();
+  }
+}
+
+void Control::DoubleClick() {
+  if (on_double_click) {
+    on_double_click();
+  }
+}
+
+void Control::Press(const std::string& key) {
+  if (on_key) {
+    on_key(key);
+  }
+}
+
+void Control::Type(const std::string& text) {
+  value = text;
+  if (on_change) {
+    on_change();
+  }
+}
+
+void Control::Select(int row) {
+  selection = row;
+  Click();
+}
+
+void Check::Click() {
+  checked = !checked;
+  Control::Click();
+}
+
+void Option::Click() {
+  checked = true;
+  Control::Click();
+}
+
+void Combo::Type(const std::string& text) {
+  selection = -1;
+  Control::Type(text);
+}
+
+void Combo::Select(int row) {
+  value = items.rows().at(static_cast<std::size_t>(row));
+  Control::Select(row);
+}
+
+void Screen::Show(Form& form) {
+  std::erase(visible_forms_, &form);
+  visible_forms_.insert(visible_forms_.begin(), &form);
+  if (!form.visible_) {
+    form.visible_ = true;
+    if (on_visibility) {
+      on_visibility(form);
+    }
+  }
+}
+
+void Screen::Hide(Form& form) {
+  if (form.visible_) {
+    std::erase(visible_forms_, &form);
+    form.visible_ = false;
+    if (on_visibility) {
+      on_visibility(form);
+    }
+  }
+}
+
+}  // namespace velmar
