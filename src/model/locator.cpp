@@ -45,13 +45,14 @@ int Distance(const Position& own, const Position& dx, double earth_radius) {
 }
 
 int QsoPoints(std::string_view own_locator, std::string_view dx_locator) {
+  return QsoPoints(own_locator, LocatorPosition(own_locator), dx_locator);
+}
+
+int QsoPoints(std::string_view own_locator, const Position& own, std::string_view dx_locator) {
   if (dx_locator == own_locator) {
     return 1;
   }
-  if (!LocatorValid(dx_locator)) {
-    return 0;
-  }
-  return Distance(LocatorPosition(own_locator), LocatorPosition(dx_locator));
+  return LocatorValid(dx_locator) ? Distance(own, LocatorPosition(dx_locator)) : 0;
 }
 
 }  // namespace velmar

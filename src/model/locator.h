@@ -32,4 +32,8 @@ int Distance(const Position& own, const Position& dx, double earth_radius = kEar
 /// as text, 0 when the other one is no locator, else the distance. `own_locator` is valid.
 int QsoPoints(std::string_view own_locator, std::string_view dx_locator);
 
+/// The same, of a station whose position is known already: a log has one own position for all its
+/// QSOs.
+int QsoPoints(std::string_view own_locator, const Position& own, std::string_view dx_locator);
+
 }  // namespace velmar

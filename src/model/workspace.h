@@ -27,6 +27,8 @@ class Workspace {
   std::string repeated_logs() const { return store() + "/Log doppi"; }
   std::string to_check_again() const { return store() + "/Log da ricontrollare"; }
 
+  std::string sections() const { return store() + "/Sezioni_ASZ"; }
+
   std::string settings() const { return base_ + "/VartoVLM.ini"; }
   std::string call_book() const { return base_ + "/Varto_book.bin"; }
   std::string month_to_check() const { return store() + "/mese_verifica.dat"; }

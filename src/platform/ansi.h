@@ -103,8 +103,15 @@ struct AnsiLiteral {
   std::size_t size = 0;
 };
 
+/// What such a literal gives: a view that also fills a std::string without further words.
+struct AnsiView : std::string_view {
+  using std::string_view::basic_string_view;
+  // NOLINTNEXTLINE(google-explicit-constructor): that is what it is for.
+  operator std::string() const { return std::string(data(), size()); }
+};
+
 template <AnsiLiteral kText>
-constexpr std::string_view operator""_a() {
+constexpr AnsiView operator""_a() {
   return {kText.bytes, kText.size};
 }
 

@@ -156,6 +156,7 @@ class Form {
   const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
   std::string title;
+  const Control* focus = nullptr;  ///< where a procedure put the focus last
 
  protected:
   Button& AddButton(const std::string& name, const std::string& caption) {

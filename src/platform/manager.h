@@ -13,9 +13,9 @@ enum class Reply { kOk, kYes, kNo, kCancel };
 
 /// A message box, as a value: what the manager reads and may answer.
 struct Box {
-  std::vector<std::string> lines;
+  std::vector<std::string> lines{};
   Icon icon = Icon::kInfo;
-  std::string title;
+  std::string title{};
   Buttons buttons = Buttons::kOk;
   int default_button = 1;  ///< counted from 1
 

@@ -1,0 +1,79 @@
+#include "app/program.h"
+
+#include "intake/leaving.h"
+#include "intake/recalculation.h"
+#include "session/check_form.h"
+#include "session/config_dialog.h"
+#include "session/contest_session.h"
+#include "session/info_form.h"
+#include "session/main_form.h"
+#include "session/main_menu.h"
+#include "session/month_assignment.h"
+#include "session/month_dialog.h"
+#include "session/start_up.h"
+
+namespace velmar {
+
+struct Program::Modules {
+  Modules(const std::string& base_dir, const Ports& ports)
+      : session(base_dir),
+        months(session, ports.files, ports.manager, ports.clock),
+        config(session, ports.files, ports.manager, screen, main, check),
+        month_dialog(session, ports.files, ports.manager, ports.clock, screen, main, config),
+        recalculation(session, ports.files, ports.manager, screen, main),
+        leaving(session, ports.files, ports.manager, main),
+        menu(session, ports.files, ports.manager, screen, main, months,
+             {.open_recalculation = [this] { recalculation.Open(); }}),
+        start_up(session,
+                 {ports.files, ports.manager, ports.clock, ports.machine, ports.web, screen}, main,
+                 info, months, month_dialog) {
+    for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
+                                                   &recalculation.form(), &check, &info}) {
+      screen.Add(*form);
+    }
+  }
+
+  Screen screen;
+  ContestSession session;
+  MainForm main;
+  CheckForm check;
+  InfoForm info;
+  MonthAssignment months;
+  ConfigDialog config;
+  MonthDialog month_dialog;
+  Recalculation recalculation;
+  Leaving leaving;
+  MainMenu menu;
+  StartUp start_up;
+};
+
+Program::Program(const std::string& base_dir, const Ports& ports)
+    : modules_(std::make_unique<Modules>(base_dir, ports)) {}
+
+Program::~Program() = default;
+
+void Program::Start() {
+  modules_->start_up.Run();
+}
+
+Screen& Program::screen() {
+  return modules_->screen;
+}
+
+MainForm& Program::main_form() {
+  return modules_->main;
+}
+
+MonthDialog& Program::month_dialog() {
+  return modules_->month_dialog;
+}
+
+ConfigDialog& Program::config_dialog() {
+  return modules_->config;
+}
+
+Recalculation& Program::recalculation() {
+  return modules_->recalculation;
+}
+
+}  // namespace velmar

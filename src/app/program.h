@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "platform/form.h"
+#include "platform/machine.h"
+#include "platform/manager.h"
+#include "platform/web.h"
+
+namespace velmar {
+
+class ConfigDialog;
+class MainForm;
+class MonthDialog;
+class Recalculation;
+
+/// The outside of the program.
+struct Ports {
+  FileSystem& files;
+  Manager& manager;
+  Clock& clock;
+  Machine& machine;
+  Web& web;
+};
+
+/// The whole program without a front end: makes the modules, hands them their ports, and joins the
+/// menu to the steps. A front end shows the forms of the screen and calls their events. Any event
+/// may throw ProgramEnd.
+class Program {
+ public:
+  /// `base_dir` is the folder that the workspace lies in, without a slash at its end.
+  Program(const std::string& base_dir, const Ports& ports);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  /// Runs the start-up chain.
+  void Start();
+
+  Screen& screen();
+
+  // The forms, for the windows that draw them.
+  MainForm& main_form();
+  MonthDialog& month_dialog();
+  ConfigDialog& config_dialog();
+  Recalculation& recalculation();
+
+ private:
+  struct Modules;
+  std::unique_ptr<Modules> modules_;
+};
+
+}  // namespace velmar
