@@ -62,7 +62,9 @@ std::string Pad(std::string_view text, std::size_t width) {
 }
 
 std::string Str(long long number) {
-  return number < 0 ? std::to_string(number) : " " + std::to_string(number);
+  std::string text = number < 0 ? "" : " ";
+  text += std::to_string(number);
+  return text;
 }
 
 double Val(std::string_view text) {

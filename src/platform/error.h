@@ -23,6 +23,7 @@ enum class ErrorNumber : int {
   kPermissionDenied = 70,   ///< the file is locked by somebody else
   kPathFileAccess = 75,     ///< the path may not be read or written, or is of the other kind
   kPathNotFound = 76,       ///< a folder on the path does not exist
+  kNoApplication = 429,     ///< an application to be driven is not installed
   kWorkbookRefused = 1004,  ///< the workbook application refused an operation
 };
 

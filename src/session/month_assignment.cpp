@@ -65,7 +65,9 @@ void MonthAssignment::RepairMonth() {
 
 bool MonthAssignment::ReadContestDate(std::string_view category) {
   for (;;) {
-    const auto text = ReadIfThere(files_, session_.workspace.contest_date(category));
+    const bool has_folder = files_.FolderExists(session_.workspace.category(Left(category, 3)));
+    const auto text =
+        has_folder ? ReadIfThere(files_, session_.workspace.contest_date(category)) : std::nullopt;
     if (text) {
       session_.contest_date = Right(LastLine(*text), 6);
       return true;

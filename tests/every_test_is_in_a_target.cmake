@@ -1,0 +1,23 @@
+# Fails when a *_test.cpp or *_bench.cpp of the tree is named in no CMakeLists.txt beside or above.
+file(GLOB_RECURSE sources RELATIVE ${ROOT}
+  ${ROOT}/tests/*_test.cpp ${ROOT}/bench/*_bench.cpp
+  ${ROOT}/src/*_test.cpp ${ROOT}/tools/*_test.cpp)
+file(GLOB_RECURSE lists ${ROOT}/tests/CMakeLists.txt ${ROOT}/bench/CMakeLists.txt)
+set(listed "")
+foreach(list ${lists})
+  file(READ ${list} content)
+  cmake_path(GET list PARENT_PATH folder)
+  string(REGEX MATCHALL "[A-Za-z0-9_/]+_(test|bench)\\.cpp" names "${content}")
+  foreach(name ${names})
+    cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${ROOT} OUTPUT_VARIABLE relative)
+    list(APPEND listed ${relative}/${name})
+  endforeach()
+endforeach()
+if(NOT sources)
+  message(FATAL_ERROR "no test found below ${ROOT}")
+endif()
+foreach(source ${sources})
+  if(NOT source IN_LIST listed)
+    message(SEND_ERROR "${source} is in no target")
+  endif()
+endforeach()
