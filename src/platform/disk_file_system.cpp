@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <memory>
+#include <system_error>
 
 #include "platform/ansi.h"
 #include "platform/error.h"
@@ -158,7 +159,11 @@ void Replace(const std::string& path, std::string_view bytes) {
 
 }  // namespace
 
-DiskFileSystem::DiskFileSystem() : origin_(std::filesystem::current_path().string()) {}
+DiskFileSystem::DiskFileSystem() {
+  // Where the current folder is gone, only absolute paths lead anywhere.
+  std::error_code none;
+  origin_ = std::filesystem::current_path(none).string();
+}
 
 std::string DiskFileSystem::OnDisk(const std::string& path) const {
   const std::string disk_path = DiskNameFromAnsi(path);

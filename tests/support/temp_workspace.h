@@ -42,6 +42,7 @@ class TempWorkspace {
   std::map<std::string, std::string> Everything() const;
 
  private:
+  std::string start_folder_;  ///< current before, and again afterwards
   DiskFileSystem files_;
   Workspace paths_;
 };

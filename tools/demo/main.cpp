@@ -24,6 +24,7 @@ namespace {
 
 constexpr SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
 constexpr std::size_t kShownLogs = 15;
+constexpr std::size_t kNarrated = 120;  ///< bytes shown of a box
 
 /// The day on which the demo plays, whatever the machine's date is.
 constexpr std::string_view kToday = "date 21/01/2025\n";
@@ -32,18 +33,33 @@ void Heading(const std::string& text) {
   std::cout << "\n== " << text << '\n';
 }
 
-/// Plays a script and shows each record as it comes. The names of records tell what they are.
+/// The part of a record between two marks; empty where it has none.
+std::string_view Between(std::string_view record, std::string_view from, std::string_view to) {
+  const std::size_t begin = record.find(from);
+  const std::size_t end = begin == std::string_view::npos ? begin : record.find(to, begin);
+  return end == std::string_view::npos
+             ? std::string_view()
+             : record.substr(begin + from.size(), end - begin - from.size());
+}
+
+/// Shows a record of the player as a line to read: the beginning of a box, or a window.
+void Narrate(std::string_view record) {
+  if (record.starts_with("{\"box\"")) {
+    const auto lines = Between(record, "\"lines\":[", "],\"buttons\"");
+    const auto reply = Between(record, "\"reply\":\"", "\"}");
+    std::cout << "  [" << reply << "] " << lines.substr(0, kNarrated)
+              << (lines.size() > kNarrated ? "..." : "") << std::endl;
+  } else if (record.starts_with("{\"form\"")) {
+    std::cout << "  " << (Holds(record, "true") ? "opens  " : "closes ")
+              << Between(record, "{\"form\":\"", "\",") << std::endl;
+  }
+}
+
 void Play(const std::string& workspace, const std::string& commands) {
   std::ostringstream records;
   std::ostringstream complaints;
   Player player(workspace, records, complaints);
-  std::size_t shown = 0;
-  player.on_record = [&](const std::string& record) {
-    if (record.starts_with("{\"box\"") || record.starts_with("{\"form\"")) {
-      std::cout << "  " << std::setw(3) << ++shown << "  " << record.substr(0, 150)
-                << (record.size() > 150 ? "..." : "") << std::endl;
-    }
-  };
+  player.on_record = Narrate;
   std::istringstream script(std::string(kToday) + commands);
   if (player.Play(script) != PlayResult::kPlayed) {
     throw std::runtime_error("the demo came to a stop: " + complaints.str());
