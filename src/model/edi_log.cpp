@@ -68,6 +68,7 @@ EdiLog ParseEdiLog(std::string_view text) {
   log.lines = SplitLines(text);
   log.own_call = FindOwnCall(log.lines);
   bool in_qsos = false;
+  bool placed = false;
   for (const std::string_view line : log.lines) {
     if (Holds(line, edi::kEnd)) {
       in_qsos = false;
@@ -76,7 +77,8 @@ EdiLog ParseEdiLog(std::string_view text) {
       in_qsos = true;
     } else if (in_qsos && line.size() >= edi::kShortestQso) {
       log.qsos.push_back(line);
-    } else if (log.own_locator.empty() && Holds(line, "PWWLo")) {
+    } else if (!placed && Holds(line, "PWWLo")) {
+      placed = true;
       log.own_locator = Trim(Mid(line, edi::kValueColumn));
     }
   }

@@ -1,6 +1,7 @@
 #include "model/text.h"
 
 #include <charconv>
+#include <cmath>
 
 namespace velmar {
 
@@ -69,17 +70,16 @@ std::string Str(long long number) {
 
 double Val(std::string_view text) {
   text = LTrim(text);
-  if (text.starts_with('+')) {
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) {
     text.remove_prefix(1);
   }
-  const std::size_t digits = text.starts_with('-') ? 1 : 0;
-  if (text.size() <= digits ||
-      (text[digits] != '.' && (text[digits] < '0' || text[digits] > '9'))) {
+  if (text.starts_with('-')) {
     return 0;
   }
   double number = 0;
   std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-  return number;
+  return std::isfinite(number) ? (negative ? -number : number) : 0;
 }
 
 std::string Call12(std::string_view call) {

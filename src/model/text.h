@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace velmar {
 
@@ -18,7 +19,8 @@ constexpr std::string_view Left(std::string_view text, std::size_t count) {
 /// `count` characters from position `start` (counted from 1) on, or all that follow.
 constexpr std::string_view Mid(std::string_view text, std::size_t start,
                                std::size_t count = std::string_view::npos) {
-  return start > text.size() ? std::string_view() : text.substr(start - 1, count);
+  const std::size_t first = start == 0 ? 1 : start;
+  return first > text.size() ? std::string_view() : text.substr(first - 1, count);
 }
 
 /// The last `count` characters.
@@ -74,7 +76,8 @@ std::string Replaced(std::string_view text, char from, char to);
 template <typename... Parts>
 std::string Join(const Parts&... parts) {
   std::string joined;
-  const auto add = [&joined](const auto& part) {
+  const auto add = [&joined]<typename Part>(const Part& part) {
+    static_assert(!std::is_same_v<Part, char>, "a character would be taken for a number");
     if constexpr (requires { std::to_string(part); }) {
       joined += std::to_string(part);
     } else {

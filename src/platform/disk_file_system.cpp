@@ -219,8 +219,10 @@ void DiskFileSystem::Copy(const std::string& from, const std::string& to) {
 
 void DiskFileSystem::Move(const std::string& from, const std::string& to) {
   const std::string disk_from = OnDisk(from);
-  if (rename(disk_from.c_str(), OnDisk(to).c_str()) != 0) {
-    Fail(errno, disk_from);
+  const std::string disk_to = OnDisk(to);
+  if (rename(disk_from.c_str(), disk_to.c_str()) != 0) {
+    const int code = errno;
+    Fail(code == ENOENT && !IsFolder(ParentOf(disk_to)) ? ENOTDIR : code, disk_from);
   }
 }
 
