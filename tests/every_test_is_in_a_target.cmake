@@ -1,3 +1,5 @@
+cmake_minimum_required(VERSION 3.25)
+
 # Fails when a *_test.cpp or *_bench.cpp of the tree is named in no CMakeLists.txt beside or above.
 file(GLOB_RECURSE sources RELATIVE ${ROOT}
   ${ROOT}/tests/*_test.cpp ${ROOT}/bench/*_bench.cpp

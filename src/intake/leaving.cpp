@@ -6,7 +6,6 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 #include "platform/error.h"
-#include "session/version.h"
 
 namespace velmar {
 
@@ -97,10 +96,9 @@ void Leaving::ClearAndEnd(const std::vector<Scratch>& places) {
                      " Se hai messo tu il file protetto devi eliminarlo manualmente, ",
                      " Se non ne conosci la natura non è un file utilizzato dal programma."_a}});
     } else {
-      manager_.Show(
-          {.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
-                          " nella linea : ", at + 1, "(end) 04 Contatta l' autore del software_",
-                          VersionDotted())}});
+      manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
+                                    " nella linea : ", at + 1,
+                                    "(end) 04 Contatta l' autore del software_")}});
     }
   }
   throw ProgramEnd();

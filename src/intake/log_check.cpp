@@ -29,9 +29,7 @@ constexpr std::string_view kObsoleteMark = "-SUP";  ///< what the obsolete write
 /// One look through a log, row by row.
 class Checker {
  public:
-  explicit Checker(std::string_view text) : lines_(SplitLines(text)) {
-    owner_.SetCall(FindOwnCall(lines_));
-  }
+  explicit Checker(std::string_view text) : lines_(SplitLines(text)) { owner_.TakeCall(lines_); }
 
   std::optional<LogFault> Run() {
     for (const std::string_view line : lines_) {
@@ -76,6 +74,9 @@ class Checker {
   }
 
   void NoteKeys(std::string_view line) {
+    if (!Holds(line, "=")) {
+      return;
+    }
     for (std::size_t i = 0; i < kKeys.size(); ++i) {
       found_[i] = found_[i] || Holds(line, kKeys[i].key);
     }
@@ -91,22 +92,36 @@ class Checker {
 
   bool QsoPasses(std::string_view row) {
     ++number_;
+    qsos_.push_back(row);
     const auto semicolons = static_cast<std::size_t>(std::ranges::count(row, ';'));
     if (semicolons < edi::kSemicolons) {
       Refuse(LogFaultKind::kSemicolons, number_, row);
       fault_->semicolons = semicolons;
       return false;
     }
-    const std::string repaired = RepairedRow(row);
-    const QsoRecord qso = SplitQso(repaired);
-    const bool repeated = !seen_.emplace(owner_.IsOwn(repaired) ? "ERROR" : qso.call()).second;
-    if (repeated || MarkedInvalid(repaired) || MarkedDuplicate(repaired) ||
-        owner_.IsOwn(repaired)) {
-      return true;
+    std::string repaired;
+    if (Holds(row, ":") || Holds(row, ".")) {
+      repaired = RepairedRow(row);
+      row = repaired;
     }
-    const std::string locator = Upper(qso.locator());
-    return locator.size() != 6 || LocatorValid(locator) ||
-           Refuse(LogFaultKind::kQsoLocator, number_, qso.locator());
+    const std::string locator = Upper(SplitQso(row).locator());
+    return locator.size() != 6 || LocatorValid(locator) || DoesNotCount(row) ||
+           Refuse(LogFaultKind::kQsoLocator, number_, SplitQso(row).locator());
+  }
+
+  /// Whether a row scores nothing whatever its locator is.
+  bool DoesNotCount(std::string_view row) {
+    return MarkedInvalid(row) || MarkedDuplicate(row) || owner_.IsOwn(row) || IsRepeated(row);
+  }
+
+  /// Whether a row has a call that came before. Asked of doubtful rows alone, so that the calls of
+  /// a good log are never looked at.
+  bool IsRepeated(std::string_view row) {
+    for (; calls_taken_ < number_ - 1; ++calls_taken_) {
+      const std::string earlier = RepairedRow(qsos_[calls_taken_]);
+      calls_.emplace(owner_.IsOwn(earlier) ? "ERROR" : SplitQso(earlier).call());
+    }
+    return calls_.contains(std::string(SplitQso(row).call()));
   }
 
   bool Refuse(LogFaultKind kind, std::size_t number = 0, std::string_view text = {}) {
@@ -121,8 +136,10 @@ class Checker {
   std::vector<std::string_view> heading_;
   LogOwner owner_;
   std::array<bool, kKeys.size()> found_{};
-  std::unordered_set<std::string> seen_;  // without a bound: only the rescoring has one
-  std::size_t row_ = 0;                   // empty lines do not count
+  std::vector<std::string_view> qsos_;     // as they stand
+  std::unordered_set<std::string> calls_;  // of the first `calls_taken_` of them
+  std::size_t calls_taken_ = 0;
+  std::size_t row_ = 0;  // empty lines do not count
   std::size_t number_ = 0;
   bool in_qsos_ = false;
   std::optional<LogFault> fault_;

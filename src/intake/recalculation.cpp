@@ -156,8 +156,9 @@ void Recalculation::RescoreLog(const std::string& name) {
   const RescoredLog log =
       Rescore(text, [&](const RowRepair& repair) { Show(RepairBox(name, repair)); });
   if (!log.complete) {
+    rescoring_.clear();
+    Trap([&] { RemoveMatching(files_, session_.workspace.recalculated(), "*.edi"); });
     Show(OwnLocatorBox(log.owner.call(), log.owner.locator()));
-    RemoveMatching(files_, session_.workspace.recalculated(), "*.edi");
     throw ProgramEnd();
   }
   files_.Append(session_.workspace.recalculated() + "/" + name, log.text);

@@ -1,7 +1,8 @@
 #include "intake/rescoring.h"
 
-#include <unordered_set>
-#include <vector>
+#include <array>
+#include <cstdint>
+#include <utility>
 
 #include "model/edi_log.h"
 #include "model/lines.h"
@@ -10,8 +11,22 @@
 
 namespace velmar {
 
-void LogOwner::SetCall(std::string_view call) {
-  call_ = WithoutBlanks(call);
+namespace {
+
+/// Where the call stands in a log, and is put in order when it has blanks; counted from 1.
+constexpr std::size_t kCallLine = 4;
+
+bool IsUntidyCall(std::string_view line) {
+  return Holds(line, " ") && ParseHeaderRow(line).key == "PCALL";
+}
+
+}  // namespace
+
+void LogOwner::TakeCall(const std::vector<std::string_view>& lines) {
+  call_ = WithoutBlanks(FindOwnCall(lines));
+  if (lines.size() >= kCallLine && IsUntidyCall(lines[kCallLine - 1])) {
+    call_ = Upper(call_);
+  }
   base_ = OwnCallBase(call_);
 }
 
@@ -24,7 +39,9 @@ void LogOwner::SetLocator(std::string_view value) {
 }
 
 bool LogOwner::IsOwn(std::string_view row) const {
-  return (!call_.empty() && Holds(row, call_)) || (!base_.empty() && Holds(row, base_));
+  // The base is a part of the call, so that a row which holds the call holds it too.
+  const std::string& shortest = base_.empty() ? call_ : base_;
+  return !shortest.empty() && Holds(row, shortest);
 }
 
 int LogOwner::PointsTo(std::string_view locator) const {
@@ -33,8 +50,31 @@ int LogOwner::PointsTo(std::string_view locator) const {
 
 namespace {
 
-/// Line 4 of a log, where a call with blanks in it is put in order.
-constexpr std::size_t kCallLine = 4;
+/// The calls of a log, each told apart from those that came before it.
+class SeenCalls {
+ public:
+  /// Adds a call; false when it was seen before. The first call beyond the bound raises error 9.
+  bool Add(std::string_view call) {
+    if (calls_.size() == kMostLogQsos) {
+      throw RunTimeError(ErrorNumber::kSubscript, "a log with too many QSOs");
+    }
+    calls_.emplace_back(call);
+    std::size_t slot = std::hash<std::string_view>()(call) % kSlots;
+    for (; slots_[slot] != 0; slot = (slot + 1) % kSlots) {
+      if (calls_[slots_[slot] - 1U] == call) {
+        return false;
+      }
+    }
+    slots_[slot] = static_cast<std::uint16_t>(calls_.size());
+    return true;
+  }
+
+ private:
+  static constexpr std::size_t kSlots = 2048;  // a power of two, twice the bound
+
+  std::vector<std::string> calls_;
+  std::array<std::uint16_t, kSlots> slots_{};  // number of a call, counted from 1; 0 for none
+};
 
 class Rescorer {
  public:
@@ -43,7 +83,7 @@ class Rescorer {
     if (lines_.size() > kMostLogLines) {
       throw RunTimeError(ErrorNumber::kSubscript, "a log with too many lines");
     }
-    log_.owner.SetCall(FindOwnCall(lines_));
+    log_.owner.TakeCall(lines_);
     log_.text.reserve(text.size() + 2 * lines_.size());
   }
 
@@ -64,8 +104,8 @@ class Rescorer {
  private:
   /// False when the rescoring cannot go on.
   bool Take(std::string_view line) {
-    if (line_number_ == kCallLine && ParseHeaderRow(line).key == "PCALL" && Holds(line, " ")) {
-      TakeCallRow(line);
+    if (line_number_ == kCallLine && IsUntidyCall(line)) {
+      Write(WithoutBlanks(Upper(line)));
       return true;
     }
     const bool opens = Holds(line, edi::kQsoRecords);
@@ -82,12 +122,6 @@ class Rescorer {
       Write(line);
     }
     return true;
-  }
-
-  void TakeCallRow(std::string_view line) {
-    const std::string row = WithoutBlanks(Upper(line));
-    log_.owner.SetCall(Mid(row, edi::kValueColumn));
-    Write(row);
   }
 
   bool TakeQso(std::string_view line) {
@@ -123,7 +157,7 @@ class Rescorer {
     if (own) {
       qso.set_call("ERROR");
     }
-    const bool repeated = Repeats(qso.call());
+    const bool repeated = !seen_.Add(qso.call());
     const bool counts = !invalid && !marked_duplicate && !own && !repeated;
     const int points = counts ? log_.owner.PointsTo(qso.locator()) : 0;
     log_.qsos += 1;
@@ -132,15 +166,8 @@ class Rescorer {
     log_.points += points;
     const std::string number = std::to_string(points);
     qso.set_points(number);
-    Write(JoinQso(qso));
-  }
-
-  /// Whether a call was seen before in this log, on whatever row.
-  bool Repeats(std::string_view call) {
-    if (log_.qsos == kMostLogQsos) {
-      throw RunTimeError(ErrorNumber::kSubscript, "a log with too many QSOs");
-    }
-    return !seen_.emplace(call).second;
+    AppendQso(qso, log_.text);
+    Write();
   }
 
   template <typename... Parts>
@@ -151,7 +178,7 @@ class Rescorer {
 
   std::vector<std::string_view> lines_;
   const std::function<void(const RowRepair&)>& on_repair_;
-  std::unordered_set<std::string> seen_;
+  SeenCalls seen_;
   RescoredLog log_;
   std::size_t line_number_ = 0;
   bool in_qsos_ = false;

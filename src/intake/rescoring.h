@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/locator.h"
 
@@ -12,8 +13,9 @@ namespace velmar {
 /// The station that a log belongs to.
 class LogOwner {
  public:
-  /// Takes the call of the header, whose blanks do not count.
-  void SetCall(std::string_view call);
+  /// Takes the call that the log declares. Its blanks do not count; where it has some in the fourth
+  /// line, its usual place, it is put in capitals as well.
+  void TakeCall(const std::vector<std::string_view>& lines);
 
   /// Takes the value of the locator row; blanks around it do not count.
   void SetLocator(std::string_view value);

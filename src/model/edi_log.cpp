@@ -28,13 +28,17 @@ QsoRecord SplitQso(std::string_view row) {
 
 std::string JoinQso(const QsoRecord& qso) {
   std::string row;
-  for (const std::string_view field : qso.fields) {
-    row += field;
-    row += ';';
-  }
-  row.pop_back();
-  row += qso.tail;
+  AppendQso(qso, row);
   return row;
+}
+
+void AppendQso(const QsoRecord& qso, std::string& text) {
+  for (const std::string_view field : qso.fields) {
+    text += field;
+    text += ';';
+  }
+  text.pop_back();
+  text += qso.tail;
 }
 
 std::string_view FindOwnCall(const std::vector<std::string_view>& lines) {

@@ -57,6 +57,9 @@ QsoRecord SplitQso(std::string_view row);
 /// The row of a QSO: its fields parted by ";", then the tail.
 std::string JoinQso(const QsoRecord& qso);
 
+/// Writes the row of a QSO behind `text`.
+void AppendQso(const QsoRecord& qso, std::string& text);
+
 /// The call of a log as its "PCALL" row (in any case of letters) declares it, blanks included.
 /// Empty when none of the first 1000 lines is that row.
 std::string_view FindOwnCall(const std::vector<std::string_view>& lines);

@@ -1,18 +1,21 @@
 #include "model/lines.h"
 
+#include <algorithm>
+
 namespace velmar {
 
 bool LineReader::Next(std::string_view& line) {
-  if (rest_.empty()) {
+  if (at_ >= text_.size()) {
     return false;
   }
-  const std::size_t end = rest_.find_first_of(kLineEnd);
-  line = rest_.substr(0, end);
-  if (end == std::string_view::npos) {
-    rest_ = {};
-  } else {
-    rest_.remove_prefix(end + (rest_.substr(end).starts_with(kLineEnd) ? 2 : 1));
+  if (next_lf_ < at_) {
+    next_lf_ = std::min(text_.find('\n', at_), text_.size());
   }
+  const std::string_view rest = text_.substr(at_, next_lf_ - at_);
+  const std::size_t cr = rest.find('\r');
+  line = rest.substr(0, cr);
+  const bool both = cr == rest.size() - 1 || cr == std::string_view::npos;
+  at_ = both ? next_lf_ + 1 : at_ + cr + 1;
   return true;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,13 +14,16 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 /// line end has no further line behind it. The lines are views into the text.
 class LineReader {
  public:
-  explicit LineReader(std::string_view text) : rest_(text) {}
+  explicit LineReader(std::string_view text)
+      : text_(text), next_lf_(std::min(text.find('\n'), text.size())) {}
 
   /// Puts the next line into `line`; false when there is none.
   bool Next(std::string_view& line);
 
  private:
-  std::string_view rest_;
+  std::string_view text_;
+  std::size_t at_ = 0;
+  std::size_t next_lf_;  ///< the next LF from `at_` on; a file with CR alone is searched once
 };
 
 /// All lines of a text, as LineReader gives them.

@@ -68,6 +68,16 @@ bool IsPlainFile(const std::string& path) {
   throw RunTimeError(number, AnsiFromDiskName(path));
 }
 
+/// Raises error 75 where the file at `path` is write-protected: its protection holds against
+/// rewriting and removing as well, and whoever the user is.
+void MindProtection(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+      (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) {
+    Fail(EACCES, path);
+  }
+}
+
 /// An open file of the operating system.
 class OpenFile {
  public:
@@ -89,6 +99,9 @@ class OpenFile {
     struct stat status {};
     if (fstat(descriptor_, &status) != 0) {
       Fail(errno, path_);
+    }
+    if ((status.st_mode & (S_IRUSR | S_IRGRP | S_IROTH)) == 0) {
+      Fail(EACCES, path_);
     }
     std::string bytes(static_cast<std::size_t>(status.st_size) + 1, '\0');
     std::size_t size = 0;
@@ -143,6 +156,7 @@ void Replace(const std::string& path, std::string_view bytes) {
   if (IsFolder(path)) {
     Fail(EISDIR, path);
   }
+  MindProtection(path);
   const std::string temporary = ParentOf(path) + "/.velmar-" + std::to_string(getpid()) + ".part";
   try {
     OpenFile file(temporary, O_WRONLY | O_CREAT | O_TRUNC);
@@ -184,7 +198,9 @@ void DiskFileSystem::WriteAll(const std::string& path, std::string_view bytes) {
 }
 
 void DiskFileSystem::Append(const std::string& path, std::string_view bytes) {
-  OpenFile file(OnDisk(path), O_WRONLY | O_CREAT | O_APPEND);
+  const std::string disk_path = OnDisk(path);
+  MindProtection(disk_path);
+  OpenFile file(disk_path, O_WRONLY | O_CREAT | O_APPEND);
   file.Write(bytes);
   file.Close();
 }
@@ -228,6 +244,7 @@ void DiskFileSystem::Move(const std::string& from, const std::string& to) {
 
 void DiskFileSystem::Remove(const std::string& path) {
   const std::string disk_path = OnDisk(path);
+  MindProtection(disk_path);
   if (unlink(disk_path.c_str()) != 0) {
     Fail(errno, disk_path);
   }

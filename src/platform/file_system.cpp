@@ -74,7 +74,7 @@ std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& pat
 
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern) {
   for (const std::string& name : files.List(folder, pattern)) {
-    files.Remove(folder + "/" + name);
+    RemoveIfThere(files, folder + "/" + name);
   }
 }
 

@@ -70,11 +70,14 @@ ConfigDialog::ConfigDialog(ContestSession& session, FileSystem& files, Manager& 
   form_.Command2.on_click = [this] { Command2_Click(); };
 }
 
-void ConfigDialog::Open() {
+void ConfigDialog::Prepare() {
   trap_.Statement(60, [&] { LoadSettings(); });
   for (const Setting setting : kAllSettings) {
     ShowSetting(setting);
   }
+}
+
+void ConfigDialog::Open() {
   screen_.Show(form_);
 }
 
@@ -116,7 +119,7 @@ void ConfigDialog::ShowExclusive(Setting on, Setting off) {
 
 void ConfigDialog::Command2_Click() {
   trap_.Procedure([&] {
-    trap_.Statement(70, [&] { CreateSettings(); });
+    CreateSettings();
     screen_.Hide(form_);
     screen_.Show(main_);
     check_.Check9.checked = true;
@@ -132,11 +135,14 @@ void ConfigDialog::Command2_Click() {
 }
 
 void ConfigDialog::CreateSettings() {
-  if (ReadIfThere(files_, session_.workspace.settings())) {
+  const std::string path = session_.workspace.settings();
+  bool missing = false;
+  trap_.Statement(70, [&] { missing = !ReadIfThere(files_, path); });
+  if (!missing) {
     return;
   }
   session_.settings = Settings::New();
-  files_.WriteAll(session_.workspace.settings(), session_.settings.Text());
+  trap_.Statement(71, [&] { files_.WriteAll(path, session_.settings.Text()); });
   for (const Setting setting : kAllSettings) {
     if (session_.settings.On(setting)) {
       check_.ItemOf(setting).checked = true;

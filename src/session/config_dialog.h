@@ -49,7 +49,9 @@ class ConfigDialog {
 
   ConfigForm& form() { return form_; }
 
-  /// Loads the settings, shows their state in the dialog and on the check desk, and opens.
+  /// Loads the settings, and shows their state in the dialog and on the check desk.
+  void Prepare();
+
   void Open();
 
   /// The confirmation: makes the settings file where there is none, and brings the main screen

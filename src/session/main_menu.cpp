@@ -4,6 +4,7 @@
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
+#include "platform/error.h"
 #include "session/workbook_version.h"
 
 namespace velmar {
@@ -18,6 +19,7 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
       trap_(manager),
       steps_(std::move(steps)) {
   OnClick(form.restore_1KM, &MainMenu::restore_1KM_Click);
+  OnClick(form.Rinomina_ita, &MainMenu::Rinomina_ita_Click);
   OnClick(form.Inserire_log, &MainMenu::Inserire_log_Click);
   OnClick(form.CLA_mese_excel, &MainMenu::CLA_mese_excel_Click);
   OnClick(form.Elimina_log, &MainMenu::Elimina_log_Click);
@@ -28,9 +30,7 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   OnClick(form.Rookie, &MainMenu::Rookie_Click);
   OnClick(form.Young, &MainMenu::Young_Click);
   OnClick(form.Command1, &MainMenu::Command1_Click);
-  form.ass_mese.on_click = [this, &months] {
-    trap_.Procedure([&] { trap_.Statement(80, [&] { months.ass_mese_Click(); }); });
-  };
+  form.ass_mese.on_click = [this, &months] { trap_.Procedure([&] { months.ass_mese_Click(); }); };
   for (Button* button : {&form.caricaedi, &form.Marcafile}) {
     button->on_key = [this, button](const std::string& key) { StartByKey(*button, key); };
   }
@@ -57,6 +57,19 @@ void MainMenu::restore_1KM_Click() {
     manager_.Show(
         {.lines = {"La cartella ' Log ricalcolati', NON è vuota. "_a,
                    " elimina i file, altrimenti si mischiano i file nuovi con i vecchi."}});
+  }
+}
+
+void MainMenu::Rinomina_ita_Click() {
+  bool in_the_way = false;
+  trap_.Statement(84, [&] { in_the_way = HoldsFiles(files_, session_.workspace.to_insert()); });
+  if (in_the_way) {
+    screen_.Hide(form_);
+    manager_.Show(
+        {.lines = {" La cartella ' 03 Log da inserire', NON è vuota. "_a,
+                   " Esci ed elimina i file, altrimenti si mischiano i file nuovi con i vecchi."}});
+    manager_.Show({.lines = {" Programma terminato "}, .icon = Icon::kStop});
+    throw ProgramEnd();
   }
 }
 

@@ -24,6 +24,9 @@ class MainMenu {
            MainForm& form, MonthAssignment& months, MenuSteps steps);
 
   void restore_1KM_Click();
+  /// Logs that wait to be inserted are not to be mixed with newly renamed ones: they end the
+  /// program.
+  void Rinomina_ita_Click();
   void Inserire_log_Click();
   void CLA_mese_excel_Click();
   void Elimina_log_Click();

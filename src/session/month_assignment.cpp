@@ -20,6 +20,10 @@ void MonthAssignment::TakeMonthFromDate() {
   session_.month_text = MonthNameOf(date) + session_.system_year;
 }
 
+void MonthAssignment::Write(const std::string& path, const std::string& month) {
+  trap_.Statement(24, [&] { files_.WriteAll(path, Join(month, kLineEnd)); });
+}
+
 void MonthAssignment::ass_mese_Click() {
   if (session_.month_assigned) {
     manager_.Show({.lines = {" Attenzione il nome al mese dello Velmar è già stato assegnato"_a,
@@ -37,7 +41,7 @@ void MonthAssignment::ass_mese_Click() {
   }
   session_.category_month = Upper(answer);
   session_.contest_year = YearOf(session_.category_month);
-  files_.WriteAll(session_.workspace.category_month(), Join(session_.category_month, kLineEnd));
+  Write(session_.workspace.category_month(), session_.category_month);
   session_.month_shown = session_.category_month;
   session_.month_assigned = true;
 }
@@ -59,8 +63,8 @@ void MonthAssignment::RepairMonth() {
     }
     session_.contest_year = YearOf(session_.month_to_check);
   } while (Val(session_.contest_year) == 0);
-  files_.WriteAll(session_.workspace.month_to_check(), Join(session_.month_to_check, kLineEnd));
-  files_.WriteAll(session_.workspace.category_month(), Join(session_.category_month, kLineEnd));
+  Write(session_.workspace.month_to_check(), session_.month_to_check);
+  Write(session_.workspace.category_month(), session_.category_month);
 }
 
 bool MonthAssignment::ReadContestDate(std::string_view category) {

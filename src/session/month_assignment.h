@@ -8,6 +8,7 @@
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "session/contest_session.h"
+#include "session/menu_trap.h"
 
 namespace velmar {
 
@@ -15,7 +16,7 @@ namespace velmar {
 class MonthAssignment {
  public:
   MonthAssignment(ContestSession& session, FileSystem& files, Manager& manager, Clock& clock)
-      : session_(session), files_(files), manager_(manager), clock_(clock) {}
+      : session_(session), files_(files), manager_(manager), clock_(clock), trap_(manager) {}
 
   /// The menu item that gives the category store its month. It neither tests for January nor writes
   /// the month to check, so that a month that differs is found at the next start.
@@ -32,11 +33,13 @@ class MonthAssignment {
 
  private:
   void TakeMonthFromDate();
+  void Write(const std::string& path, const std::string& month);
 
   ContestSession& session_;
   FileSystem& files_;
   Manager& manager_;
   Clock& clock_;
+  MenuTrap trap_;
 };
 
 }  // namespace velmar

@@ -108,6 +108,7 @@ void MonthDialog::OK_mese_Click() {
     trap_.Statement(52, [&] { files_.WriteAll(session_.workspace.category_month(), line); });
     session_.month_assigned = true;
     main_.title = MainTitle(session_);
+    config_.Prepare();  // ahead of the hiding: a failure leaves this dialog to be seen
     screen_.Hide(form_);
     config_.Open();
   });

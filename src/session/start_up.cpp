@@ -285,11 +285,14 @@ void StartUp::TestWrongLogs() {
 }
 
 void StartUp::TestSteps() {
-  trap_.Statement(22, [&] {
-    session_.step1_pending = HoldsFiles(ports_.files, session_.workspace.to_recalculate());
-    session_.step2_pending = HoldsFiles(ports_.files, session_.workspace.recalculated());
-    session_.step3_pending = HoldsFiles(ports_.files, session_.workspace.to_insert());
-  });
+  const auto pending = [&](const std::string& folder) {
+    bool holds_files = false;
+    trap_.Statement(22, [&] { holds_files = HoldsFiles(ports_.files, folder); });
+    return holds_files;
+  };
+  session_.step1_pending = pending(session_.workspace.to_recalculate());
+  session_.step2_pending = pending(session_.workspace.recalculated());
+  session_.step3_pending = pending(session_.workspace.to_insert());
   if (session_.step1_pending) {
     main_.ShowHeaderPanel();
   } else {
@@ -339,7 +342,7 @@ void StartUp::EndOnMismatch() {
         " Il programma è terminato. Verifica le date dello Velmar."_a},
        Icon::kStop);
   Show({" Correggi la data e riavia"});
-  trap_.Statement(24, [&] { months_.RepairMonth(); });
+  months_.RepairMonth();
   throw ProgramEnd();
 }
 
@@ -358,7 +361,7 @@ void StartUp::CheckVersion() {
     return;
   }
   const auto lines = SplitLines(fetched);
-  const std::string version(lines.empty() ? std::string_view() : Trim(lines.front()));
+  const std::string version(lines.empty() ? std::string_view() : lines.front());
   if (kVersionShort < version) {
     ShowNewVersion(DottedVersion(version));
   }

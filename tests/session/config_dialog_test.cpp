@@ -32,6 +32,7 @@ class ConfigTest : public testing::Test {
 
   void OpenWith(const std::string& ini) {
     workspace.With("VartoVLM.ini", ini);
+    config.Prepare();
     config.Open();
   }
 
@@ -77,6 +78,7 @@ TEST_F(ConfigTest, OfTheLastTwoTheLaterOneWins) {
 }
 
 TEST_F(ConfigTest, TheConfirmationMakesAMissingFileAndBringsTheMainScreen) {
+  config.Prepare();
   config.Open();
   EXPECT_EQ(Marks(), "- -o-o-o-o-o-o-o");
   config.form().Command2.Click();
@@ -98,6 +100,7 @@ TEST_F(ConfigTest, AFileThatIsThereStaysAsItIs) {
 
 TEST_F(ConfigTest, TheFirstStartOfATreeEndsHere) {
   session.tree_existed = false;
+  config.Prepare();
   config.Open();
   EXPECT_THROW(config.form().Command2.Click(), ProgramEnd);
   EXPECT_EQ(manager.boxes.at(0).icon, Icon::kExclamation);

@@ -52,10 +52,11 @@ TEST_F(PlayerTest, AStoryFromTheFirstStartToTheRecalculatedLog) {
   EXPECT_EQ(records.back(), R"({"end":"program"})");
 
   workspace.WithLog("a.edi", LogText("IK2QAA", "JN45AA", {QsoRow("IZ9QBC", "JN45AA")}));
-  EXPECT_EQ(Play("# a comment\n\nstart\nclick ok_MESE\r\nclick VLM2M_00_Config.Command2\n"
-                 "click restore_1KM\nforms\nclick rinomina\nshow List1\nclick torna_menu\n"
-                 "show restore_1KM\nclick Exit\nunknown"),
-            PlayResult::kPlayed);
+  EXPECT_EQ(
+      Play("\xEF\xBB\xBF# a comment\n\nstart\nclick ok_MESE\r\nclick VLM2M_00_Config.Command2\n"
+           "click restore_1KM\nforms\nclick rinomina\nshow List1\nclick torna_menu\n"
+           "show restore_1KM\nclick Exit\nunknown"),
+      PlayResult::kPlayed);
   EXPECT_EQ(
       records,
       (Records{
@@ -71,10 +72,10 @@ TEST_F(PlayerTest, AStoryFromTheFirstStartToTheRecalculatedLog) {
           R"({"form":"VLM2M_14_restore_1km","visible":true})",
           R"({"form":"VLM2M_14_restore_1km","visible":true})",
           R"({"box":"info","title":"","lines":[" finito"],"buttons":"ok","reply":"ok"})",
-          R"({"control":"List1","form":"VLM2M_14_restore_1km","kind":"list","caption":"Esito","value":"","items":["a.edi                             qso 1  error 0  doppi 0  punti 1"],"selection":-1,"visible":true,"enabled":true,"checked":false,"colour":null})",
+          R"({"control":"List1","form":"VLM2M_14_restore_1km","kind":"list","caption":"Esito","value":"","items":["a.edi                             qso 1  error 0  doppi 0  punti 1"],"selected":-1,"visible":true,"enabled":true,"checked":false,"colour":null})",
           R"({"form":"VLM2M_14_restore_1km","visible":false})",
           R"({"form":"VLM2M_01_input","visible":true})",
-          R"({"control":"restore_1KM","form":"VLM2M_01_input","kind":"menu","caption":"1) Ricalcola log a 1 punto a KM","value":"","items":[],"selection":-1,"visible":true,"enabled":false,"checked":true,"colour":null})",
+          R"({"control":"restore_1KM","form":"VLM2M_01_input","kind":"menu","caption":"1) Ricalcola log a 1 punto a KM","value":"","items":[],"selected":-1,"visible":true,"enabled":false,"checked":true,"colour":null})",
           R"({"end":"program"})"}));
   EXPECT_EQ(workspace.Names("01 Log da RICALCOLARE"), Records{});
   EXPECT_TRUE(workspace.Read("02 Log ricalcolati/a.edi")
@@ -155,9 +156,10 @@ TEST_F(PlayerTest, ControlsAreUsedAsAPersonWould) {
 TEST_F(PlayerTest, WhatAPersonCannotDoIsAScriptError) {
   Configured();
   const std::string main = kToMainScreen;
-  for (const char* command : {"click nowhere", "click VLM2M_01_input.nowhere", "click restore_1KM",
-                              "click Marcafile", "click OK_mese", "tick esci", "select esci 0",
-                              "type esci x", "sing", "answer maybe", "online perhaps", "excel x"}) {
+  for (const char* command :
+       {"click nowhere", "click VLM2M_01_input.nowhere", "click restore_1KM", "click Marcafile",
+        "click OK_mese", "tick esci", "select esci 0", "type esci x", "key esci", "key esci F6",
+        "sing", "answer maybe", "online perhaps", "excel x"}) {
     EXPECT_EQ(Play(main + command + "\n"), PlayResult::kScriptError) << command;
     EXPECT_TRUE(complaint.starts_with("line 4: ")) << complaint;
   }

@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     return Play(workspace, std::cin);
   }
   std::ifstream script(argv[2]);
-  if (!script) {
+  if (!script || std::filesystem::is_directory(argv[2])) {
     std::cerr << "velmar-play: cannot read the script: " << argv[2] << '\n';
     return kUsageError;
   }

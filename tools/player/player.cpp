@@ -13,6 +13,8 @@ namespace velmar {
 
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// A word, and the rest behind the blank that ends it.
 struct Words {
   std::string first;
@@ -69,7 +71,9 @@ PlayResult Player::Play(std::istream& script) {
   std::size_t number = 0;
   try {
     while (std::getline(script, line)) {
-      ++number;
+      if (++number == 1 && line.starts_with(kByteOrderMark)) {
+        line.erase(0, kByteOrderMark.size());
+      }
       if (line.ends_with('\r')) {
         line.pop_back();
       }
@@ -249,6 +253,9 @@ void Player::Select(const std::string& rest) {
 
 void Player::Press(const std::string& rest) {
   const auto [name, key] = Divide(rest);
+  if (key.size() != 1 && key != "F5" && key != "Enter" && key != "Esc") {
+    throw ScriptError("unknown key: " + key);
+  }
   Usable(name).Press(key);
 }
 
@@ -338,7 +345,7 @@ void Player::RecordControl(const Control& control) {
              .Text("caption", control.caption)
              .Text("value", label ? control.caption : control.value)
              .Texts("items", control.items.rows())
-             .Number("selection", control.selection)
+             .Number("selected", control.selection)
              .Flag("visible", control.visible)
              .Flag("enabled", control.enabled)
              .Flag("checked", control.checked)

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/form.h"
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QMenuBar;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QTableView;
+class QWidget;
+
+namespace velmar {
+
+class EventRunner;
+class RowView;
+
+/// What joins one control of a form to what draws it on the screen. The widget or action bears the
+/// control's name, and what a person does to it becomes the control's event.
+class Binding {
+ public:
+  explicit Binding(Control& control) : control_(control) {}
+  virtual ~Binding() = default;
+  Binding(const Binding&) = delete;
+  Binding& operator=(const Binding&) = delete;
+
+  Control& control() const { return control_; }
+
+  /// The widget; nothing for an item of a menu.
+  virtual QWidget* widget() const { return nullptr; }
+  /// The action of a menu item; nothing for a widget.
+  virtual QAction* action() const { return nullptr; }
+
+  /// Draws what has changed. Cheap where nothing has.
+  virtual void Refresh() = 0;
+
+ private:
+  Control& control_;
+};
+
+using BindingPtr = std::unique_ptr<Binding>;
+
+// Bind a widget to a control of its kind. Widget, control and runner outlive the binding.
+BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner);
+BindingPtr Bind(QCheckBox& widget, Check& control, EventRunner& runner);
+BindingPtr Bind(QRadioButton& widget, Option& control, EventRunner& runner);
+BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner);
+BindingPtr Bind(QComboBox& widget, Combo& control, EventRunner& runner);
+BindingPtr Bind(RowView& widget, List& control, EventRunner& runner);
+BindingPtr Bind(RowView& widget, FileList& control, EventRunner& runner);
+BindingPtr Bind(QProgressBar& widget, ProgressBar& control, EventRunner& runner);
+
+/// A grid: its first row and first column are the headings.
+BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner);
+
+/// The title of a frame is a label too.
+BindingPtr Bind(QGroupBox& widget, Label& control, EventRunner& runner);
+
+/// A text field. `caption`, if any, shows the control's caption beside it, and is seen with it.
+BindingPtr Bind(QLineEdit& widget, TextField& control, EventRunner& runner,
+                QLabel* caption = nullptr);
+
+/// A label whose colour tells a state: besides the colour it bears a mark that differs in shape.
+BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner);
+
+/// Builds a menu bar out of the menu controls among `controls`: an item without a parent is a menu,
+/// or an action of the bar when nothing hangs in it.
+std::vector<BindingPtr> BindMenu(QMenuBar& bar,
+                                 const std::vector<std::unique_ptr<Control>>& controls,
+                                 EventRunner& runner);
+
+}  // namespace velmar

@@ -1,0 +1,80 @@
+#include "ui/desktop.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <utility>
+
+#include "platform/ansi.h"
+#include "ui/config_window.h"
+#include "ui/event_runner.h"
+#include "ui/look.h"
+#include "ui/main_window.h"
+#include "ui/month_window.h"
+#include "ui/recalculation_window.h"
+
+namespace velmar {
+
+Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
+    : program_(program), runner_(runner), manager_(manager) {
+  Add(std::make_unique<MainWindow>(program.main_form(), runner));
+  Add(std::make_unique<MonthWindow>(program.month_dialog().form(), runner));
+  Add(std::make_unique<ConfigWindow>(program.config_dialog().form(), runner));
+  Add(std::make_unique<RecalculationWindow>(program.recalculation().form(), runner));
+  program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };
+  runner.on_refresh = [this] { Refresh(); };
+  runner.on_failure = [this](const std::string& what) { TellFailure(what); };
+  // The program ends by its own ways out, and between two windows none is to be seen.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+Desktop::~Desktop() {
+  program_.screen().on_visibility = nullptr;
+  runner_.on_refresh = nullptr;
+  runner_.on_failure = nullptr;
+}
+
+int Desktop::Run() {
+  QTimer::singleShot(0, &runner_, [this] { runner_.Run([this] { program_.Start(); }); });
+  return QApplication::exec();
+}
+
+FormWindow* Desktop::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void Desktop::Add(std::unique_ptr<FormWindow> window) {
+  const Form* form = &window->form();
+  Centre(*window);
+  windows_.emplace(form, std::move(window));
+}
+
+void Desktop::ShowOrHide(Form& form) {
+  if (FormWindow* window = WindowOf(form)) {
+    window->Refresh();
+    window->setVisible(form.visible());
+  }
+}
+
+void Desktop::Refresh() {
+  for (const auto& [form, window] : windows_) {
+    if (form->visible()) {
+      window->Refresh();
+    }
+  }
+  const auto& visible = program_.screen().visible_forms();
+  const Form* top = visible.empty() ? nullptr : visible.front();
+  if (std::exchange(top_, top) != top && top != nullptr) {
+    if (FormWindow* window = WindowOf(*top)) {
+      window->raise();
+      window->activateWindow();
+    }
+  }
+}
+
+void Desktop::TellFailure(const std::string& what) {
+  manager_.Show({.lines = {" Il programma si ferma per un errore imprevisto: "_a, what},
+                 .icon = Icon::kStop});
+}
+
+}  // namespace velmar

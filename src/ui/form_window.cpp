@@ -1,0 +1,141 @@
+#include "ui/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <algorithm>
+#include <utility>
+
+#include "ui/event_runner.h"
+#include "ui/qt_text.h"
+#include "ui/widget_binding.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr int kLampMargin = 3;
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, EventRunner& runner) : form_(form), runner_(runner) {
+  setObjectName(ToQString(form.name()));
+}
+
+FormWindow::~FormWindow() = default;
+
+QLabel* FormWindow::MakeText(Label& control) {
+  auto* label = Make<QLabel>(control);
+  label->setWordWrap(true);
+  return label;
+}
+
+QLineEdit* FormWindow::MakeDisplay(TextField& control, QLabel* caption) {
+  auto* line = new QLineEdit;
+  line->setReadOnly(true);
+  line->setFocusPolicy(Qt::ClickFocus);
+  AddBinding(Bind(*line, control, runner_, caption));
+  return line;
+}
+
+FormWindow::Field FormWindow::MakeField(TextField& control) {
+  const Field field{new QLabel, new QLineEdit};
+  AddBinding(Bind(*field.line, control, runner_, field.caption));
+  return field;
+}
+
+QLabel* FormWindow::MakeLamp(Label& control) {
+  auto* label = new QLabel;
+  label->setAlignment(Qt::AlignCenter);
+  label->setMargin(kLampMargin);
+  AddBinding(BindLamp(*label, control, runner_));
+  return label;
+}
+
+void FormWindow::MakeMenu() {
+  std::ranges::move(BindMenu(*menuBar(), form_.controls(), runner_), std::back_inserter(bindings_));
+}
+
+void FormWindow::ShowWithAny(QWidget& group, std::vector<const Control*> controls) {
+  groups_.push_back({&group, std::move(controls)});
+}
+
+void FormWindow::SetDefault(QPushButton& button) {
+  button.setDefault(true);
+  default_button_ = &button;
+}
+
+void FormWindow::Finish(QWidget* content) {
+  setCentralWidget(content);
+  for (std::size_t i = 1; i < tab_order_.size(); ++i) {
+    setTabOrder(tab_order_[i - 1], tab_order_[i]);
+  }
+  if (close_control_ == nullptr) {
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowMinimizeButtonHint);
+  }
+  Refresh();
+}
+
+void FormWindow::AddBinding(BindingPtr binding) {
+  QWidget* widget = binding->widget();
+  if (widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+    tab_order_.push_back(widget);
+  }
+  bindings_.push_back(std::move(binding));
+}
+
+void FormWindow::Refresh() {
+  if (const QString title = ToShownRow(form_.title); windowTitle() != title) {
+    setWindowTitle(title);
+  }
+  for (const BindingPtr& binding : bindings_) {
+    binding->Refresh();
+  }
+  for (const Group& group : groups_) {
+    group.widget->setVisible(std::ranges::any_of(
+        group.controls, [](const Control* control) { return control->visible; }));
+  }
+  ApplyFocus();
+}
+
+void FormWindow::ApplyFocus() {
+  // Taken back, so that the same control can be asked for again.
+  const Control* wanted = std::exchange(form_.focus, nullptr);
+  for (const BindingPtr& binding : bindings_) {
+    if (wanted == &binding->control() && binding->widget() != nullptr) {
+      binding->widget()->setFocus();
+      focus_waits_ = !isVisible();
+    }
+  }
+}
+
+void FormWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  const auto first = std::ranges::find_if(
+      tab_order_, [](const QWidget* widget) { return widget->isVisible() && widget->isEnabled(); });
+  if (!std::exchange(focus_waits_, false) && first != tab_order_.end()) {
+    (*first)->setFocus();
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (close_control_ != nullptr) {
+    Act(runner_, *close_control_, [](Control& control) { control.Click(); });
+  }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && default_button_ != nullptr) {
+    default_button_->click();
+  } else {
+    QMainWindow::keyPressEvent(event);
+  }
+}
+
+}  // namespace velmar

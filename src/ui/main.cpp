@@ -1,0 +1,37 @@
+#include <QApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include "app/program.h"
+#include "platform/disk_file_system.h"
+#include "ui/desktop.h"
+#include "ui/event_runner.h"
+#include "ui/look.h"
+#include "ui/qt_machine.h"
+#include "ui/qt_manager.h"
+#include "ui/qt_text.h"
+#include "ui/qt_web.h"
+#include "ui/system_clock.h"
+
+int main(int, char* arguments[]) {
+  using namespace velmar;
+  int count = 1;  // the program has no command line, nor has the toolkit
+  QApplication application(count, arguments);
+  ApplyLook(application);
+  QTranslator translator;  // for what the toolkit says by itself, such as in a file dialog
+  if (translator.load(QStringLiteral("qtbase_it"),
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&translator);
+  }
+
+  DiskFileSystem files;
+  EventRunner runner;
+  QtManager manager(runner);
+  SystemClock clock;
+  QtMachine machine;
+  QtWeb web;
+  Program program(FromDiskName(QDir::currentPath()), {files, manager, clock, machine, web});
+  Desktop desktop(program, runner, manager);
+  return desktop.Run();
+}
