@@ -74,11 +74,11 @@ class Checker {
   }
 
   void NoteKeys(std::string_view line) {
-    if (!Holds(line, "=")) {
-      return;
-    }
-    for (std::size_t i = 0; i < kKeys.size(); ++i) {
-      found_[i] = found_[i] || Holds(line, kKeys[i].key);
+    for (std::size_t i = 0; i < kKeys.size() && missing_ > 0; ++i) {
+      if (!found_[i] && Holds(line, kKeys[i].key)) {
+        found_[i] = true;
+        --missing_;
+      }
     }
   }
 
@@ -136,6 +136,7 @@ class Checker {
   std::vector<std::string_view> heading_;
   LogOwner owner_;
   std::array<bool, kKeys.size()> found_{};
+  std::size_t missing_ = kKeys.size();
   std::vector<std::string_view> qsos_;     // as they stand
   std::unordered_set<std::string> calls_;  // of the first `calls_taken_` of them
   std::size_t calls_taken_ = 0;

@@ -15,6 +15,9 @@ namespace {
 
 constexpr std::size_t kNameWidth = 32;
 
+/// Texts that are kept from the first pass to the second, so that most logs are read once.
+constexpr std::size_t kMostKeptBytes = 96'000'000;
+
 /// What the manager reads of a log that was recalculated.
 std::string OutcomeRow(const std::string& name, const RescoredLog& log) {
   return Join(Pad(name, std::max(kNameWidth, name.size())), "  qso ", log.qsos, "  error ",
@@ -97,16 +100,23 @@ void Recalculation::rinomina_Click() {
 void Recalculation::CheckLogs() {
   const auto arrived = files_.List(session_.workspace.to_recalculate(), "*.*");
   form_.progress.maximum = 2 * arrived.size();
-  names_.clear();
+  passed_.clear();
+  kept_bytes_ = 0;
   for (std::size_t i = 0; i < arrived.size(); ++i) {
-    const std::string text = files_.ReadAll(session_.workspace.to_recalculate() + "/" + arrived[i]);
+    std::string text = files_.ReadAll(session_.workspace.to_recalculate() + "/" + arrived[i]);
     if (const auto fault = FindLogFault(text)) {
       Refuse(arrived[i], *fault);
     } else {
-      names_.push_back(arrived[i]);
+      Keep(arrived[i], std::move(text));
     }
     Advance(i + 1);
   }
+}
+
+void Recalculation::Keep(const std::string& name, std::string text) {
+  const bool fits = kept_bytes_ + text.size() <= kMostKeptBytes;
+  kept_bytes_ += fits ? text.size() : 0;
+  passed_.push_back({name, fits ? std::optional(std::move(text)) : std::nullopt});
 }
 
 void Recalculation::Refuse(const std::string& name, const LogFault& fault) {
@@ -143,16 +153,17 @@ void Recalculation::SetAside(const std::string& name, const std::string& suffix)
 
 void Recalculation::RescoreLogs() {
   written_.clear();
-  for (std::size_t i = 0; i < names_.size(); ++i) {
-    rescoring_ = names_[i];
-    RescoreLog(names_[i]);
+  for (std::size_t i = 0; i < passed_.size(); ++i) {
+    rescoring_ = passed_[i].name;
+    RescoreLog(passed_[i].name, std::exchange(passed_[i].text, std::nullopt));
     rescoring_.clear();
     Advance(form_.progress.maximum / 2 + i + 1);
   }
 }
 
-void Recalculation::RescoreLog(const std::string& name) {
-  const std::string text = files_.ReadAll(session_.workspace.to_recalculate() + "/" + name);
+void Recalculation::RescoreLog(const std::string& name, std::optional<std::string> kept) {
+  const std::string text =
+      kept ? *std::move(kept) : files_.ReadAll(session_.workspace.to_recalculate() + "/" + name);
   const RescoredLog log =
       Rescore(text, [&](const RowRepair& repair) { Show(RepairBox(name, repair)); });
   if (!log.complete) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -49,19 +51,26 @@ class Recalculation {
   void torna_menu_Click();
 
  private:
+  /// A log that passed the first pass, with its text while there is room for it.
+  struct PassedLog {
+    std::string name;
+    std::optional<std::string> text;
+  };
+
   void Trap(const std::function<void()>& procedure);
   void ReportLogFault();
   void RefreshLists();
 
   // The first pass.
   void CheckLogs();
+  void Keep(const std::string& name, std::string text);
   void Refuse(const std::string& name, const LogFault& fault);
   std::string ConfirmLocator(const LogFault& fault);
   void SetAside(const std::string& name, const std::string& suffix);
 
   // The second pass.
   void RescoreLogs();
-  void RescoreLog(const std::string& name);
+  void RescoreLog(const std::string& name, std::optional<std::string> kept);
   void Finish();
 
   void RemoveRecalculated();
@@ -76,7 +85,8 @@ class Recalculation {
   MainForm& main_;
   RecalculationForm form_;
   int step_ = 0;                             ///< what the run is at, for the message of a failure
-  std::vector<std::string> names_;           ///< the logs of the run that are still in it
+  std::vector<PassedLog> passed_;            ///< the logs that passed the first pass
+  std::size_t kept_bytes_ = 0;               ///< of their texts
   std::string rescoring_;                    ///< the log that the second pass is at; empty for none
   std::unordered_set<std::string> written_;  ///< the logs that the run wrote
   bool run_made_ = false;

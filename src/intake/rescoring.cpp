@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <utility>
 
 #include "model/edi_log.h"
@@ -53,12 +54,15 @@ namespace {
 /// The calls of a log, each told apart from those that came before it.
 class SeenCalls {
  public:
-  /// Adds a call; false when it was seen before. The first call beyond the bound raises error 9.
+  SeenCalls() { calls_.reserve(128); }
+
+  /// Adds a call, which outlives this; false when it was seen before. The first call beyond the
+  /// bound raises error 9.
   bool Add(std::string_view call) {
     if (calls_.size() == kMostLogQsos) {
       throw RunTimeError(ErrorNumber::kSubscript, "a log with too many QSOs");
     }
-    calls_.emplace_back(call);
+    calls_.push_back(call);
     std::size_t slot = std::hash<std::string_view>()(call) % kSlots;
     for (; slots_[slot] != 0; slot = (slot + 1) % kSlots) {
       if (calls_[slots_[slot] - 1U] == call) {
@@ -72,7 +76,7 @@ class SeenCalls {
  private:
   static constexpr std::size_t kSlots = 2048;  // a power of two, twice the bound
 
-  std::vector<std::string> calls_;
+  std::vector<std::string_view> calls_;
   std::array<std::uint16_t, kSlots> slots_{};  // number of a call, counted from 1; 0 for none
 };
 
@@ -109,11 +113,12 @@ class Rescorer {
       return true;
     }
     const bool opens = Holds(line, edi::kQsoRecords);
-    in_qsos_ = (in_qsos_ || opens) && !Holds(line, edi::kEnd);
+    const bool closes = Holds(line, edi::kEnd);
+    in_qsos_ = (in_qsos_ || opens) && !closes;
     if (Holds(line, "PWWLo")) {
       log_.owner.SetLocator(Mid(line, edi::kValueColumn));
     }
-    if (Holds(line, "[END;")) {
+    if (closes && Holds(line, "[END;")) {
       Write(edi::kRecalculated, line);
       ended_ = true;
     } else if (in_qsos_ && !opens) {
@@ -125,9 +130,7 @@ class Rescorer {
   }
 
   bool TakeQso(std::string_view line) {
-    std::string colons;
-    std::string dots;
-    const std::string_view row = Repair(Repair(line, ':', colons), '.', dots);
+    const std::string_view row = Repair(Repair(line, ':'), '.');
     if (row.size() < edi::kShortestQso) {
       return true;
     }
@@ -138,13 +141,13 @@ class Rescorer {
     return true;
   }
 
-  /// The row with each `found` turned into ";", kept in `repaired` where there was one.
-  std::string_view Repair(std::string_view row, char found, std::string& repaired) {
+  /// The row with each `found` turned into ";".
+  std::string_view Repair(std::string_view row, char found) {
     const std::size_t first = row.find(found);
     if (first == std::string_view::npos) {
       return row;
     }
-    repaired = Replaced(row, found, ';');
+    const std::string& repaired = repaired_.emplace_back(Replaced(row, found, ';'));
     on_repair_({line_number_, found, first + 1, row, repaired});
     return repaired;
   }
@@ -178,6 +181,7 @@ class Rescorer {
 
   std::vector<std::string_view> lines_;
   const std::function<void(const RowRepair&)>& on_repair_;
+  std::deque<std::string> repaired_;  // rows that calls are seen in
   SeenCalls seen_;
   RescoredLog log_;
   std::size_t line_number_ = 0;

@@ -14,15 +14,18 @@ HeaderRow ParseHeaderRow(std::string_view row) {
 QsoRecord SplitQso(std::string_view row) {
   QsoRecord qso;
   std::size_t begin = 0;
-  for (std::string_view& field : qso.fields) {
-    const std::size_t end = std::min(row.find(';', begin), row.size());
-    field = Trim(row.substr(begin, end - begin));
-    if (end == row.size()) {
-      return qso;
+  std::size_t field = 0;
+  for (std::size_t at = 0; at < row.size(); ++at) {
+    if (row[at] == ';') {
+      qso.fields[field++] = Trim(row.substr(begin, at - begin));
+      begin = at + 1;
+      if (field == QsoRecord::kFields) {
+        qso.tail = row.substr(at);
+        return qso;
+      }
     }
-    begin = end + 1;
   }
-  qso.tail = row.substr(begin - 1);
+  qso.fields[field] = Trim(row.substr(begin));
   return qso;
 }
 

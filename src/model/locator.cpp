@@ -25,13 +25,16 @@ Position LocatorPosition(std::string_view locator) {
   const auto digit = [&](std::size_t at) { return static_cast<double>(locator[at] - '0'); };
   const double longitude = letter(0) * 20 - 180 + 2 * digit(2) + letter(4) / 12 + 1.0 / 24;
   const double latitude = letter(1) * 10 - 90 + digit(3) + letter(5) / 24 + 1.0 / 48;
-  return {longitude * kDegree, latitude * kDegree};
+  Position position{longitude * kDegree, latitude * kDegree};
+  position.sin_latitude = std::sin(position.latitude);
+  position.cos_latitude = std::cos(position.latitude);
+  return position;
 }
 
 int Distance(const Position& own, const Position& dx, double earth_radius) {
   const double dlon = dx.longitude - own.longitude;
-  const double c = std::sin(dx.latitude) * std::sin(own.latitude) +
-                   std::cos(own.latitude) * std::cos(dx.latitude) * std::cos(dlon);
+  const double c =
+      dx.sin_latitude * own.sin_latitude + own.cos_latitude * dx.cos_latitude * std::cos(dlon);
   if (1 - c * c < 0) {
     throw RunTimeError(ErrorNumber::kInvalidCall, "the root of a negative number");
   }

@@ -16,8 +16,10 @@ bool LocatorValid(std::string_view text);
 
 /// A place on the earth, in radians; east and north are positive.
 struct Position {
-  double longitude;
-  double latitude;
+  double longitude = 0;
+  double latitude = 0;
+  double sin_latitude = 0;  ///< taken once, since a log has one own place for all its QSOs
+  double cos_latitude = 1;
 };
 
 /// The centre of the subsquare that a valid locator names.

@@ -113,11 +113,12 @@ class OpenFile {
       if (got < 0) {
         Fail(errno, path_);
       }
-      if (got == 0) {
+      size += static_cast<std::size_t>(got);
+      // A plain file gives less than was asked for at its end alone; others say so by nothing.
+      if (got == 0 || (S_ISREG(status.st_mode) && status.st_size > 0 && size < bytes.size())) {
         bytes.resize(size);
         return bytes;
       }
-      size += static_cast<std::size_t>(got);
       if (size == bytes.size()) {
         bytes.resize(bytes.size() * 2);
       }
