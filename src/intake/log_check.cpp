@@ -23,6 +23,8 @@ struct HeaderKey {
 constexpr std::array<HeaderKey, 5> kKeys = {
     {{4, "PCall="}, {5, "PWWLo="}, {6, "PExch="}, {9, "PSect="}, {10, "PBand="}}};
 
+constexpr std::size_t kCallField = 3;
+constexpr std::size_t kLocatorField = 10;
 constexpr std::size_t kHeadingRows = 5;
 constexpr std::string_view kObsoleteMark = "-SUP";  ///< what the obsolete writer has as its row 3
 
@@ -104,9 +106,9 @@ class Checker {
       repaired = RepairedRow(row);
       row = repaired;
     }
-    const std::string locator = Upper(SplitQso(row).locator());
+    const std::string locator = Upper(QsoField(row, kLocatorField));
     return locator.size() != 6 || LocatorValid(locator) || DoesNotCount(row) ||
-           Refuse(LogFaultKind::kQsoLocator, number_, SplitQso(row).locator());
+           Refuse(LogFaultKind::kQsoLocator, number_, QsoField(row, kLocatorField));
   }
 
   /// Whether a row scores nothing whatever its locator is.
@@ -119,9 +121,9 @@ class Checker {
   bool IsRepeated(std::string_view row) {
     for (; calls_taken_ < number_ - 1; ++calls_taken_) {
       const std::string earlier = RepairedRow(qsos_[calls_taken_]);
-      calls_.emplace(owner_.IsOwn(earlier) ? "ERROR" : SplitQso(earlier).call());
+      calls_.emplace(owner_.IsOwn(earlier) ? "ERROR" : QsoField(earlier, kCallField));
     }
-    return calls_.contains(std::string(SplitQso(row).call()));
+    return calls_.contains(std::string(QsoField(row, kCallField)));
   }
 
   bool Refuse(LogFaultKind kind, std::size_t number = 0, std::string_view text = {}) {

@@ -15,18 +15,39 @@ QsoRecord SplitQso(std::string_view row) {
   QsoRecord qso;
   std::size_t begin = 0;
   std::size_t field = 0;
+  bool tidy = true;
   for (std::size_t at = 0; at < row.size(); ++at) {
     if (row[at] == ';') {
-      qso.fields[field++] = Trim(row.substr(begin, at - begin));
-      begin = at + 1;
+      const std::string_view whole = row.substr(begin, at - begin);
+      const std::string_view trimmed = Trim(whole);
+      qso.fields[field++] = trimmed;
       if (field == QsoRecord::kFields) {
         qso.tail = row.substr(at);
+        qso.unchanged = tidy ? row.substr(0, begin) : std::string_view();
         return qso;
       }
+      tidy = tidy && trimmed.size() == whole.size();
+      begin = at + 1;
     }
   }
   qso.fields[field] = Trim(row.substr(begin));
   return qso;
+}
+
+std::string_view QsoField(std::string_view row, std::size_t number) {
+  std::size_t field = 1;
+  std::size_t begin = 0;
+  std::size_t at = 0;
+  for (; at < row.size(); ++at) {
+    if (row[at] == ';') {
+      if (field == number) {
+        break;
+      }
+      ++field;
+      begin = at + 1;
+    }
+  }
+  return field == number ? Trim(row.substr(begin, at - begin)) : std::string_view();
 }
 
 std::string JoinQso(const QsoRecord& qso) {
@@ -36,6 +57,12 @@ std::string JoinQso(const QsoRecord& qso) {
 }
 
 void AppendQso(const QsoRecord& qso, std::string& text) {
+  if (!qso.unchanged.empty()) {
+    text += qso.unchanged;
+    text += qso.points();
+    text += qso.tail;
+    return;
+  }
   for (const std::string_view field : qso.fields) {
     text += field;
     text += ';';

@@ -39,6 +39,7 @@ struct QsoRecord {
 
   std::array<std::string_view, kFields> fields;
   std::string_view tail;
+  std::string_view unchanged;  ///< the row up to its points, where it stands as the fields do
 
   // The fields by their content, in the order of the row.
   std::string_view date() const { return fields[0]; }     ///< YYMMDD
@@ -47,12 +48,18 @@ struct QsoRecord {
   std::string_view locator() const { return fields[9]; }  ///< of the other station
   std::string_view points() const { return fields[10]; }  ///< km
 
-  void set_call(std::string_view call) { fields[2] = call; }
+  void set_call(std::string_view call) {
+    fields[2] = call;
+    unchanged = {};
+  }
   void set_points(std::string_view points) { fields[10] = points; }
 };
 
 /// Cuts a QSO row at its ";". A row with fewer fields has empty ones at the end.
 QsoRecord SplitQso(std::string_view row);
+
+/// One field of a QSO row, by its number from 1 on, as SplitQso gives it.
+std::string_view QsoField(std::string_view row, std::size_t number);
 
 /// The row of a QSO: its fields parted by ";", then the tail.
 std::string JoinQso(const QsoRecord& qso);

@@ -30,11 +30,16 @@ constexpr std::string_view Right(std::string_view text, std::size_t count) {
 
 /// The text without the blanks (and blanks alone) at its front, at its end, or at both.
 constexpr std::string_view LTrim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+  while (!text.empty() && text.front() == ' ') {
+    text.remove_prefix(1);
+  }
+  return text;
 }
 constexpr std::string_view RTrim(std::string_view text) {
-  return text.substr(0, text.find_last_not_of(' ') + 1);
+  while (!text.empty() && text.back() == ' ') {
+    text.remove_suffix(1);
+  }
+  return text;
 }
 constexpr std::string_view Trim(std::string_view text) {
   return LTrim(RTrim(text));

@@ -68,13 +68,19 @@ bool IsPlainFile(const std::string& path) {
   throw RunTimeError(number, AnsiFromDiskName(path));
 }
 
-/// Raises error 75 where the file at `path` is write-protected: its protection holds against
-/// rewriting and removing as well, and whoever the user is.
+/// Raises error 75 for a write-protected file: its protection holds against rewriting and removing
+/// as well, and whoever the user is.
+void MindProtection(const struct stat& status, const std::string& path) {
+  if (S_ISREG(status.st_mode) && (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) {
+    Fail(EACCES, path);
+  }
+}
+
+/// The same for the file at a path, where there is one.
 void MindProtection(const std::string& path) {
   struct stat status {};
-  if (stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-      (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) {
-    Fail(EACCES, path);
+  if (stat(path.c_str(), &status) == 0) {
+    MindProtection(status, path);
   }
 }
 
@@ -96,10 +102,7 @@ class OpenFile {
   OpenFile& operator=(const OpenFile&) = delete;
 
   std::string Read() {
-    struct stat status {};
-    if (fstat(descriptor_, &status) != 0) {
-      Fail(errno, path_);
-    }
+    const struct stat status = Status();
     if ((status.st_mode & (S_IRUSR | S_IRGRP | S_IROTH)) == 0) {
       Fail(EACCES, path_);
     }
@@ -125,6 +128,8 @@ class OpenFile {
     }
   }
 
+  void MindProtection() { velmar::MindProtection(Status(), path_); }
+
   void Write(std::string_view bytes) {
     while (!bytes.empty()) {
       const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
@@ -148,6 +153,14 @@ class OpenFile {
   }
 
  private:
+  struct stat Status() {
+    struct stat status {};
+    if (fstat(descriptor_, &status) != 0) {
+      Fail(errno, path_);
+    }
+    return status;
+  }
+
   std::string path_;
   int descriptor_;
 };
@@ -199,9 +212,8 @@ void DiskFileSystem::WriteAll(const std::string& path, std::string_view bytes) {
 }
 
 void DiskFileSystem::Append(const std::string& path, std::string_view bytes) {
-  const std::string disk_path = OnDisk(path);
-  MindProtection(disk_path);
-  OpenFile file(disk_path, O_WRONLY | O_CREAT | O_APPEND);
+  OpenFile file(OnDisk(path), O_WRONLY | O_CREAT | O_APPEND);
+  file.MindProtection();
   file.Write(bytes);
   file.Close();
 }

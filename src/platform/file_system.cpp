@@ -1,6 +1,7 @@
 #include "platform/file_system.h"
 
 #include <algorithm>
+#include <array>
 
 #include "platform/error.h"
 
@@ -9,15 +10,20 @@ namespace velmar {
 namespace {
 
 /// Small letters of code page 1252, byte by byte.
+constexpr auto kSmallLetters = [] {
+  std::array<unsigned char, 256> small{};
+  for (std::size_t byte = 0; byte < small.size(); ++byte) {
+    const bool letter =
+        (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
+    const bool other = byte == 0x8A || byte == 0x8C || byte == 0x8E;
+    small[byte] = static_cast<unsigned char>(byte + (letter ? 0x20 : other ? 0x10 : 0));
+  }
+  small[0x9F] = 0xFF;
+  return small;
+}();
+
 constexpr unsigned char Fold(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  if ((byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7)) {
-    return byte + 0x20;
-  }
-  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) {
-    return byte + 0x10;
-  }
-  return byte == 0x9F ? 0xFF : byte;
+  return kSmallLetters[static_cast<unsigned char>(c)];
 }
 
 }  // namespace
