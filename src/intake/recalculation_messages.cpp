@@ -1,5 +1,7 @@
 #include "intake/recalculation_messages.h"
 
+#include <vector>
+
 #include "model/text.h"
 #include "platform/ansi.h"
 
@@ -31,13 +33,17 @@ Box QsoLocatorBox(const std::string& name, const LogFault& fault) {
                 " Il file è stato spostato. Correggi locatore qso"_a, "  "}};
 }
 
+std::vector<std::string> ObsoleteWriterIntroduction(const std::string& name) {
+  return {" ATTENZIONE ",
+          Join(" il log di \"", name, "\" è stato scritto con un programma obsoleto,"_a),
+          " del quale si è a conoscenza dell' errore prodotto. "_a,
+          " Il programma crea sulla terza riga un scritta supplementare che non deve esserci",
+          " elimina la terza riga con la scritta '-SUP' dell' intestazione",
+          "  "};
+}
+
 Box ObsoleteWriterBox(const std::string& name, const LogFault& fault) {
-  Box box{
-      .lines = {" ATTENZIONE ",
-                Join(" il log di \"", name, "\" è stato scritto con un programma obsoleto,"_a),
-                " del quale si è a conoscenza dell' errore prodotto. "_a,
-                " Il programma crea sulla terza riga un scritta supplementare che non deve esserci",
-                " elimina la terza riga con la scritta '-SUP' dell' intestazione", "  "}};
+  Box box{.lines = ObsoleteWriterIntroduction(name)};
   for (std::size_t i = 0; i < fault.heading.size(); ++i) {
     box.lines.push_back(Join(" riga ", i + 1, "    ", fault.heading[i]));
   }

@@ -79,8 +79,9 @@ std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& pat
 }
 
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern) {
+  const std::string prefix = folder + "/";
   for (const std::string& name : files.List(folder, pattern)) {
-    RemoveIfThere(files, folder + "/" + name);
+    RemoveIfThere(files, prefix + name);
   }
 }
 

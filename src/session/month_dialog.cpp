@@ -11,6 +11,7 @@ namespace {
 
 std::vector<std::string> MonthRows() {
   std::vector<std::string> rows;
+  rows.reserve(kMonthNames.size());
   for (const std::string_view name : kMonthNames) {
     rows.push_back(Join(Left(name, 1), Lower(Mid(name, 2))));
   }

@@ -52,10 +52,10 @@ QFont AtLeast(QFont font, int points) {
 
 }  // namespace
 
-void ApplyLook(QApplication& application) {
+void ApplyLook() {
   QApplication::setStyle(new RoomyStyle);
   QApplication::setPalette(Colours());
-  QApplication::setFont(AtLeast(application.font(), kPointSize));
+  QApplication::setFont(AtLeast(QApplication::font(), kPointSize));
 }
 
 QFont FixedFont() {

@@ -2,7 +2,6 @@
 
 #include <QFont>
 
-class QApplication;
 class QLabel;
 class QWidget;
 
@@ -13,7 +12,7 @@ inline constexpr int kMargin = 14;
 inline constexpr int kSpacing = 8;
 
 /// Gives the whole application its style, colours and font sizes.
-void ApplyLook(QApplication& application);
+void ApplyLook();
 
 /// The font of lists and of rows with fixed columns.
 QFont FixedFont();

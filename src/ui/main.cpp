@@ -14,11 +14,13 @@
 #include "ui/qt_web.h"
 #include "ui/system_clock.h"
 
-int main(int, char* arguments[]) {
-  using namespace velmar;
+namespace velmar {
+namespace {
+
+int Run(char* arguments[]) {
   int count = 1;  // the program has no command line, nor has the toolkit
   QApplication application(count, arguments);
-  ApplyLook(application);
+  ApplyLook();
   QTranslator translator;  // for what the toolkit says by itself, such as in a file dialog
   if (translator.load(QStringLiteral("qtbase_it"),
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
@@ -34,4 +36,11 @@ int main(int, char* arguments[]) {
   Program program(FromDiskName(QDir::currentPath()), {files, manager, clock, machine, web});
   Desktop desktop(program, runner, manager);
   return desktop.Run();
+}
+
+}  // namespace
+}  // namespace velmar
+
+int main(int, char* arguments[]) {
+  return velmar::Run(arguments);
 }

@@ -168,7 +168,8 @@ QWidget* MainWindow::MakeSteps() {
   rows->setSpacing(kSpacing);
   for (const BindingPtr& binding : bindings()) {
     const Control& control = binding->control();
-    if (binding->action() == nullptr || control.menu != &form_.controllo || !control.on_click) {
+    const bool step_of_menu = control.menu == &form_.controllo && &control != &form_.ass_mese;
+    if (binding->action() == nullptr || !step_of_menu || !control.on_click) {
       continue;
     }
     QPushButton* step = MakeStep(*binding->action());

@@ -9,6 +9,6 @@ int main(int count, char* arguments[]) {
   // Also where a build lists the tests, on a machine without a screen.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(count, arguments);
-  velmar::ApplyLook(application);
+  velmar::ApplyLook();
   return RUN_ALL_TESTS();
 }

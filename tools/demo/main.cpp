@@ -22,7 +22,7 @@
 namespace velmar {
 namespace {
 
-constexpr SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
+const SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
 constexpr std::size_t kShownLogs = 15;
 constexpr std::size_t kNarrated = 120;  ///< bytes shown of a box
 

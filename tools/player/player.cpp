@@ -230,7 +230,9 @@ void Player::Type(const std::string& rest) {
 }
 
 void Player::Select(const std::string& rest) {
-  const auto [name, row] = Divide(rest);
+  const Words words = Divide(rest);
+  const std::string& name = words.first;
+  const std::string& row = words.rest;
   Control& control = Usable(name);
   if (!HasRows(control)) {
     throw ScriptError(name + " has no rows");

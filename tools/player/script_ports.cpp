@@ -80,7 +80,7 @@ Reply ScriptManager::Show(const Box& box) {
 
 std::optional<std::string> ScriptManager::Ask(const InputBox& box) {
   const Answer answer = Take(AnswerKind::kInput, "input box: " + InOneLine(box.lines));
-  const auto reply = answer.take_default ? std::optional(box.default_text) : answer.text;
+  auto reply = answer.take_default ? std::optional(box.default_text) : answer.text;
   sink_(JsonRecord()
             .Text("input", box.title)
             .Texts("lines", box.lines)
