@@ -35,7 +35,7 @@ constexpr std::size_t Next(std::size_t at) {
 void BM_QsoPoints(benchmark::State& state) {
   const auto table = MadeLocators();
   std::size_t at = 0;
-  for (const auto& _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
     const std::size_t next = Next(at);
     benchmark::DoNotOptimize(QsoPoints(table[at], table[next]));
     at = next;
@@ -49,7 +49,7 @@ void BM_QsoPointsFromPosition(benchmark::State& state) {
   const std::string own = "JN45OL";
   const Position position = LocatorPosition(own);
   std::size_t at = 0;
-  for (const auto& _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
     benchmark::DoNotOptimize(QsoPoints(own, position, table[at]));
     at = Next(at);
   }
@@ -59,7 +59,7 @@ BENCHMARK(BM_QsoPointsFromPosition);
 void BM_LocatorValid(benchmark::State& state) {
   const auto table = MadeLocators();
   std::size_t at = 0;
-  for (const auto& _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
     benchmark::DoNotOptimize(LocatorValid(table[at]));
     at = Next(at);
   }

@@ -26,7 +26,7 @@ void BM_FindLogFault(benchmark::State& state) {
   if (FindLogFault(log)) {
     state.SkipWithError("the made-up log is refused");
   }
-  for (const auto& _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
     benchmark::DoNotOptimize(FindLogFault(log));
   }
   CountQsos(state);
@@ -41,7 +41,7 @@ void BM_Rescore(benchmark::State& state) {
   if (!scored.complete || scored.errors + scored.duplicates + repairs != 0) {
     state.SkipWithError("the made-up log has faults");
   }
-  for (const auto& _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
     benchmark::DoNotOptimize(Rescore(log, count_repairs));
   }
   CountQsos(state);
