@@ -24,9 +24,7 @@ struct Program::Modules {
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); }}),
-        start_up(session,
-                 {ports.files, ports.manager, ports.clock, ports.machine, ports.web, screen}, main,
-                 info, months, month_dialog) {
+        start_up(session, ports, screen, main, info, months, month_dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
                                                    &recalculation.form(), &check, &info}) {
       screen.Add(*form);

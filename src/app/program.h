@@ -3,12 +3,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/clock.h"
-#include "platform/file_system.h"
 #include "platform/form.h"
-#include "platform/machine.h"
-#include "platform/manager.h"
-#include "platform/web.h"
+#include "platform/ports.h"
 
 namespace velmar {
 
@@ -16,15 +12,6 @@ class ConfigDialog;
 class MainForm;
 class MonthDialog;
 class Recalculation;
-
-/// The outside of the program.
-struct Ports {
-  FileSystem& files;
-  Manager& manager;
-  Clock& clock;
-  Machine& machine;
-  Web& web;
-};
 
 /// The whole program without a front end: makes the modules, hands them their ports, and joins the
 /// menu to the steps. A front end shows the forms of the screen and calls their events. Any event

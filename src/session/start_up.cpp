@@ -68,7 +68,7 @@ void StartUp::Chain() {
   trap_.Statement(6, [&] { ports_.files.ChangeFolder(session_.workspace.base()); });
   SetDefaults();
   session_.tree_existed = ports_.files.FolderExists(session_.workspace.store());
-  ports_.screen.Show(main_);
+  screen_.Show(main_);
   CreateTree();
   ListInsertDir();
   RequireSettings();
@@ -90,7 +90,7 @@ void StartUp::Chain() {
   }
   CheckVersion();
   month_dialog_.Open();
-  ports_.screen.Hide(main_);
+  screen_.Hide(main_);
 }
 
 void StartUp::TestConnection() {
@@ -189,7 +189,7 @@ void StartUp::RequireSettings() {
   if (!missing || session_.tree_existed) {
     return;
   }
-  ports_.screen.Hide(main_);
+  screen_.Hide(main_);
   Show({" ATTENZIONE,  questa sembra essere la prima esecuzione del programma. ",
         " Se cosi fosse, esci dal programma e : ", "     ",
         " 1) metti i log degli italiani senza rinominarli nella cartella: ",

@@ -2,12 +2,9 @@
 
 #include <string>
 
-#include "platform/clock.h"
-#include "platform/file_system.h"
 #include "platform/form.h"
-#include "platform/machine.h"
 #include "platform/manager.h"
-#include "platform/web.h"
+#include "platform/ports.h"
 #include "session/contest_session.h"
 #include "session/info_form.h"
 #include "session/main_form.h"
@@ -21,19 +18,11 @@ namespace velmar {
 /// that tell which step is next. It ends in the month dialog, or ends the program.
 class StartUp {
  public:
-  struct Ports {
-    FileSystem& files;
-    Manager& manager;
-    Clock& clock;
-    Machine& machine;
-    Web& web;
-    Screen& screen;
-  };
-
-  StartUp(ContestSession& session, const Ports& ports, MainForm& main, InfoForm& info,
-          MonthAssignment& months, MonthDialog& month_dialog)
+  StartUp(ContestSession& session, const Ports& ports, Screen& screen, MainForm& main,
+          InfoForm& info, MonthAssignment& months, MonthDialog& month_dialog)
       : session_(session),
         ports_(ports),
+        screen_(screen),
         main_(main),
         info_(info),
         months_(months),
@@ -78,6 +67,7 @@ class StartUp {
 
   ContestSession& session_;
   Ports ports_;
+  Screen& screen_;
   MainForm& main_;
   InfoForm& info_;
   MonthAssignment& months_;

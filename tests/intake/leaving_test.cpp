@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "platform/error.h"
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
@@ -64,6 +66,15 @@ TEST_F(LeavingTest, ExitClearsTheWorkingCopiesWithoutAQuestion) {
                            "Trofeo_Velmar/2IT/keep.txt", "Trofeo_Velmar/a.cla_scorta",
                            "Trofeo_Velmar/a.est", "Trofeo_Velmar/keep.mes",
                            "Trofeo_Velmar/note.txt", "a.mnt", "keep.edi"}));
+}
+
+TEST_F(LeavingTest, WriteProtectionOnTheDiskIsMinded) {
+  std::filesystem::permissions(workspace.paths().store() + "/note.txt",
+                               std::filesystem::perms::owner_read);
+  manager.replies = {Reply::kYes};
+  EXPECT_THROW(main.esci.Click(), ProgramEnd);
+  EXPECT_EQ(workspace.Read("Trofeo_Velmar/note.txt"), "x");
+  EXPECT_EQ(manager.TakeFirstLines().size(), 2U);
 }
 
 TEST_F(LeavingTest, AProtectedTextStopsTheClearingAndTheProgramEnds) {

@@ -34,6 +34,7 @@ TEST(FindLogFault, PassesWhatCanBeComputed) {
       LogText("IK2QAA", "JN45AA", {QsoRow("IZ9QBC", "JM67AA") + ";;"}),  // too many semicolons
       LogText("IK2QAA", "JN45AA", {"", "short", QsoRow("IZ9QBC", "JM67AA")}),
       // A row that does not count may have any locator.
+      LogText("ik2 qaa", "JN45AA", {QsoRow("IK2QAA", "JN45YY")}),
       LogText("IK2QAA", "JN45AA", {QsoRow("ERROR", "JN45YY")}),
       LogText("IK2QAA", "JN45AA", {QsoRow("IZ9QBC", "JN45YY") + "D"}),
       LogText("IK2QAA", "JN45AA", {QsoRow("IK2QAA/P", "JN45YY")}),
@@ -63,7 +64,7 @@ TEST(FindLogFault, FindsTheFirstReason) {
       {LogText("IK2QAA", "JN45AY", {}), LogFaultKind::kOwnLocator, 0, ""},
       {WithoutRow(kGood, "PWWLo"), LogFaultKind::kOwnLocator, 0, ""},
       {LogText("IK2QAA", "JO20AA", {}), LogFaultKind::kForeignLocator, 0, ""},
-      {LogText(" IK2 QAA", "JO20AA", {}), LogFaultKind::kForeignLocator, 0, ""},
+      {LogText(" ik2 qaa", "JO20AA", {}), LogFaultKind::kForeignLocator, 0, ""},
       {LogText("IK2QAA", "JN45AA", {"short", QsoRow("IZ9QBC", "JM4AAA")}),
        LogFaultKind::kQsoLocator, 1, "JM4AAA"},
       {WithoutRow(kGood, "PCall="), LogFaultKind::kMissingKey, 4, "PCall="},

@@ -184,6 +184,20 @@ TEST_F(RecalculationTest, AnItalianAbroadLeavesTheRunWhateverTheAnswer) {
                                "si.edi locatore no italia- contoll log.edi"}));
 }
 
+TEST_F(RecalculationTest, ALogSetAsideEarlierIsNotOverwritten) {
+  const std::string bad = LogText("IK2QAA", "JN45", {});
+  const std::string other = LogText("IK2QAB", "JN45", {});
+  for (const std::string& log : {bad, other, bad}) {
+    workspace.WithLog("a.edi", log);
+    RunStep();
+  }
+  EXPECT_EQ(SetAside(), (Names{"a.edi (2) + manca locatore partenza.edi",
+                               "a.edi + manca locatore partenza.edi"}));
+  EXPECT_EQ(
+      workspace.Read("Trofeo_Velmar/Log da ricontrollare/a.edi + manca locatore partenza.edi"),
+      bad);
+}
+
 TEST_F(RecalculationTest, AMissingKeyEndsTheProgramAndLeavesTheLog) {
   workspace.WithLog("bad.edi", "PWWLo=JN45AA\r\nPExch=\r\nPSect=\r\nPBand=\r\n");
   step.Open();

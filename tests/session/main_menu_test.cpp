@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "model/text.h"
+#include "platform/error.h"
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
@@ -49,6 +50,14 @@ TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
   EXPECT_EQ(manager.boxes.at(0).lines,
             (Lines{"La cartella ' Log ricalcolati', NON \xE8 vuota. ",
                    " elimina i file, altrimenti si mischiano i file nuovi con i vecchi."}));
+}
+
+TEST_F(MainMenuTest, LogsThatWaitToBeInsertedEndTheRenaming) {
+  form.Rinomina_ita.Click();
+  EXPECT_TRUE(manager.boxes.empty());
+  workspace.With("03 Log da inserire/a.edi", "x");
+  EXPECT_THROW(form.Rinomina_ita.Click(), ProgramEnd);
+  EXPECT_EQ(manager.boxes.at(1), (Box{.lines = {" Programma terminato "}, .icon = Icon::kStop}));
 }
 
 TEST_F(MainMenuTest, TheWorkbookHasItsGatesInOrder) {

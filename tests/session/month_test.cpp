@@ -110,6 +110,13 @@ TEST_F(MonthTest, TheRepairAsksUntilTheAnswerEndsInANumber) {
   EXPECT_EQ(Verified(), "GENNAIO 2023\r\n");
   EXPECT_EQ(Stored(), "GENNAIO 2024\r\n");
 
+  workspace.files().Remove(workspace.paths().month_to_check());
+  workspace.files().MakeFolder(workspace.paths().month_to_check());  // refuses to be written
+  session.category_month = "GENNAIO 2022";
+  manager.inputs = {"gennaio 2023"};
+  months.RepairMonth();
+  EXPECT_EQ(Stored(), "GENNAIO 2022\r\n") << "the next statement follows";
+
   manager.inputs = {std::nullopt};
   EXPECT_THROW(months.RepairMonth(), ProgramEnd);
   EXPECT_EQ(manager.boxes.back().icon, Icon::kStop);

@@ -35,7 +35,7 @@ struct StartedProgram {
         config(session, files, manager, screen, main, check),
         dialog(session, files, manager, clock, screen, main, config),
         months(session, files, manager, clock),
-        start(session, {files, manager, clock, machine, web, screen}, main, info, months, dialog) {
+        start(session, {files, manager, clock, machine, web}, screen, main, info, months, dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &dialog.form(), &config.form()}) {
       screen.Add(*form);
     }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "platform/machine.h"
+#include "platform/manager.h"
+#include "platform/web.h"
+
+namespace velmar {
+
+/// The outside of the program, as a front end hands it over.
+struct Ports {
+  FileSystem& files;
+  Manager& manager;
+  Clock& clock;
+  Machine& machine;
+  Web& web;
+};
+
+}  // namespace velmar
