@@ -58,15 +58,16 @@ class Checker {
     if (row_ == kHeadingRows && heading_[2] == kObsoleteMark) {
       return Refuse(LogFaultKind::kObsoleteWriter);
     }
-    if (Holds(line, "PWWLo")) {
+    const LineMarks marks = MarksOf(line);
+    if (marks.own_locator) {
       owner_.SetLocator(Mid(line, edi::kValueColumn));
       if (owner_.locator().size() != 6) {
         return Refuse(LogFaultKind::kOwnLocator);
       }
     }
-    if (Holds(line, edi::kEnd)) {
+    if (marks.closes_qsos) {
       in_qsos_ = false;
-    } else if (Holds(line, edi::kQsoRecords)) {
+    } else if (marks.opens_qsos) {
       in_qsos_ = true;
       return OwnerPasses();
     } else if (in_qsos_ && line.size() >= edi::kShortestQso) {

@@ -112,16 +112,15 @@ class Rescorer {
       Write(WithoutBlanks(Upper(line)));
       return true;
     }
-    const bool opens = Holds(line, edi::kQsoRecords);
-    const bool closes = Holds(line, edi::kEnd);
-    in_qsos_ = (in_qsos_ || opens) && !closes;
-    if (Holds(line, "PWWLo")) {
+    const LineMarks marks = MarksOf(line);
+    in_qsos_ = (in_qsos_ || marks.opens_qsos) && !marks.closes_qsos;
+    if (marks.own_locator) {
       log_.owner.SetLocator(Mid(line, edi::kValueColumn));
     }
-    if (closes && Holds(line, "[END;")) {
+    if (marks.closes_qsos && Holds(line, "[END;")) {
       Write(edi::kRecalculated, line);
       ended_ = true;
-    } else if (in_qsos_ && !opens) {
+    } else if (in_qsos_ && !marks.opens_qsos) {
       return TakeQso(line);
     } else {
       Write(line);

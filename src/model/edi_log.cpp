@@ -89,8 +89,19 @@ std::string_view OwnCallBase(std::string_view call) {
   return slash > 4 ? Left(call, slash - 1) : call;
 }
 
+LineMarks MarksOf(std::string_view line) {
+  LineMarks marks;
+  marks.closes_qsos = Holds(line, edi::kEnd);
+  // Both words have an "o", which rows in capitals lack: one look spares two searches.
+  if (line.find('o') != std::string_view::npos) {
+    marks.opens_qsos = Holds(line, edi::kQsoRecords);
+    marks.own_locator = Holds(line, "PWWLo");
+  }
+  return marks;
+}
+
 bool MarkedInvalid(std::string_view row) {
-  return Holds(row, "ERROR") || Holds(row, "DELETED");
+  return row.find('E') != std::string_view::npos && (Holds(row, "ERROR") || Holds(row, "DELETED"));
 }
 
 bool MarkedDuplicate(std::string_view row) {
@@ -104,14 +115,15 @@ EdiLog ParseEdiLog(std::string_view text) {
   bool in_qsos = false;
   bool placed = false;
   for (const std::string_view line : log.lines) {
-    if (Holds(line, edi::kEnd)) {
+    const LineMarks marks = MarksOf(line);
+    if (marks.closes_qsos) {
       in_qsos = false;
       log.recalculated = log.recalculated || line.starts_with(edi::kRecalculated);
-    } else if (Holds(line, edi::kQsoRecords)) {
+    } else if (marks.opens_qsos) {
       in_qsos = true;
     } else if (in_qsos && line.size() >= edi::kShortestQso) {
       log.qsos.push_back(line);
-    } else if (!placed && Holds(line, "PWWLo")) {
+    } else if (marks.own_locator && !placed) {
       placed = true;
       log.own_locator = Trim(Mid(line, edi::kValueColumn));
     }

@@ -75,6 +75,15 @@ std::string_view FindOwnCall(const std::vector<std::string_view>& lines);
 /// behind it; a later one has the call ahead of it.
 std::string_view OwnCallBase(std::string_view call);
 
+/// What a line that is no QSO row may tell. Nearly every line of a log tells nothing.
+struct LineMarks {
+  bool opens_qsos = false;   ///< it holds "QSORecords"
+  bool closes_qsos = false;  ///< it holds "[END"
+  bool own_locator = false;  ///< it holds "PWWLo"
+};
+
+LineMarks MarksOf(std::string_view line);
+
 /// Whether a row holds the word "ERROR" or "DELETED", with which a writer takes a QSO back.
 bool MarkedInvalid(std::string_view row);
 

@@ -20,7 +20,9 @@ bool LineReader::Next(std::string_view& line) {
 }
 
 std::vector<std::string_view> SplitLines(std::string_view text) {
+  constexpr std::size_t kUsualLine = 48;
   std::vector<std::string_view> lines;
+  lines.reserve(text.size() / kUsualLine);
   LineReader reader(text);
   for (std::string_view line; reader.Next(line);) {
     lines.push_back(line);

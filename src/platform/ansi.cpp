@@ -1,11 +1,18 @@
 #include "platform/ansi.h"
 
+#include <algorithm>
+
 namespace velmar {
 
 namespace {
 
 constexpr char kEscape = '\x81';
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+
+/// Whether a text is the same in every form.
+bool IsAscii(std::string_view text) {
+  return std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
 
 void AppendUtf8(char32_t code_point, std::string& out) {
   if (code_point < 0x80) {
@@ -44,6 +51,9 @@ std::string Utf8FromAnsi(std::string_view bytes) {
 }
 
 std::string AnsiFromDiskName(std::string_view disk_name) {
+  if (IsAscii(disk_name)) {
+    return std::string(disk_name);
+  }
   std::string bytes;
   for (std::size_t at = 0; at < disk_name.size();) {
     const ansi::Decoded decoded = ansi::DecodeUtf8(disk_name, at);
@@ -64,6 +74,9 @@ std::string AnsiFromDiskName(std::string_view disk_name) {
 }
 
 std::string DiskNameFromAnsi(std::string_view bytes) {
+  if (IsAscii(bytes)) {
+    return std::string(bytes);
+  }
   std::string disk_name;
   for (std::size_t at = 0; at < bytes.size(); ++at) {
     if (bytes[at] == kEscape && at + 2 < bytes.size()) {
