@@ -167,28 +167,41 @@ std::string Recalculation::FreeName(const std::string& source, const std::string
 
 void Recalculation::RescoreLogs() {
   written_.clear();
+  RescoringAhead ahead(passed_);
   for (std::size_t i = 0; i < passed_.size(); ++i) {
     rescoring_ = passed_[i].name;
-    RescoreLog(passed_[i].name, std::exchange(passed_[i].text, std::nullopt));
+    auto rescoring = ahead.Next();
+    if (!rescoring) {
+      rescoring =
+          RescoreWhole(files_.ReadAll(session_.workspace.to_recalculate() + "/" + rescoring_));
+    }
+    WriteLog(rescoring_, *rescoring);
     rescoring_.clear();
     Advance(form_.progress.maximum / 2 + i + 1);
   }
 }
 
-void Recalculation::RescoreLog(const std::string& name, std::optional<std::string> kept) {
-  const std::string text =
-      kept ? *std::move(kept) : files_.ReadAll(session_.workspace.to_recalculate() + "/" + name);
-  const RescoredLog log =
-      Rescore(text, [&](const RowRepair& repair) { Show(RepairBox(name, repair)); });
+void Recalculation::WriteLog(const std::string& name, const Rescoring& rescoring) {
+  for (const RowRepair& repair : rescoring.repairs) {
+    Show(RepairBox(name, repair));
+  }
+  if (rescoring.error) {
+    std::rethrow_exception(rescoring.error);
+  }
+  const RescoredLog& log = rescoring.log;
   if (!log.complete) {
-    rescoring_.clear();
-    Trap([&] { RemoveMatching(files_, session_.workspace.recalculated(), "*.edi"); });
-    Show(OwnLocatorBox(log.owner.call(), log.owner.locator()));
-    throw ProgramEnd();
+    EndOnOwnLocator(log.owner);
   }
   files_.Append(session_.workspace.recalculated() + "/" + name, log.text);
   written_.insert(name);
   form_.outcome.items.Add(OutcomeRow(name, log));
+}
+
+void Recalculation::EndOnOwnLocator(const LogOwner& owner) {
+  rescoring_.clear();
+  Trap([&] { RemoveMatching(files_, session_.workspace.recalculated(), "*.edi"); });
+  Show(OwnLocatorBox(owner.call(), owner.locator()));
+  throw ProgramEnd();
 }
 
 void Recalculation::Finish() {

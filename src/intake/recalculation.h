@@ -2,13 +2,12 @@
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 #include <string>
 #include <unordered_set>
 #include <vector>
 
 #include "intake/log_check.h"
-#include "intake/rescoring.h"
+#include "intake/rescoring_ahead.h"
 #include "platform/file_system.h"
 #include "platform/form.h"
 #include "platform/manager.h"
@@ -51,12 +50,6 @@ class Recalculation {
   void torna_menu_Click();
 
  private:
-  /// A log that passed the first pass, with its text while there is room for it.
-  struct PassedLog {
-    std::string name;
-    std::optional<std::string> text;
-  };
-
   void Trap(const std::function<void()>& procedure);
   void ReportLogFault();
   void RefreshLists();
@@ -72,7 +65,8 @@ class Recalculation {
 
   // The second pass.
   void RescoreLogs();
-  void RescoreLog(const std::string& name, std::optional<std::string> kept);
+  void WriteLog(const std::string& name, const Rescoring& rescoring);
+  [[noreturn]] void EndOnOwnLocator(const LogOwner& owner);
   void Finish();
 
   void RemoveRecalculated();
@@ -87,7 +81,7 @@ class Recalculation {
   MainForm& main_;
   RecalculationForm form_;
   int step_ = 0;                             ///< what the run is at, for the message of a failure
-  std::vector<PassedLog> passed_;            ///< the logs that passed the first pass
+  std::vector<WaitingLog> passed_;           ///< the logs that passed the first pass
   std::size_t kept_bytes_ = 0;               ///< of their texts
   std::string rescoring_;                    ///< the log that the second pass is at; empty for none
   std::unordered_set<std::string> written_;  ///< the logs that the run wrote

@@ -82,7 +82,7 @@ class SeenCalls {
 
 class Rescorer {
  public:
-  Rescorer(std::string_view text, const std::function<void(const RowRepair&)>& on_repair)
+  Rescorer(std::string_view text, const std::function<void(RowRepair)>& on_repair)
       : lines_(SplitLines(text)), on_repair_(on_repair) {
     if (lines_.size() > kMostLogLines) {
       throw RunTimeError(ErrorNumber::kSubscript, "a log with too many lines");
@@ -147,7 +147,7 @@ class Rescorer {
       return row;
     }
     const std::string& repaired = repaired_.emplace_back(Replaced(row, found, ';'));
-    on_repair_({line_number_, found, first + 1, row, repaired});
+    on_repair_({line_number_, found, first + 1, std::string(row), repaired});
     return repaired;
   }
 
@@ -179,7 +179,7 @@ class Rescorer {
   }
 
   std::vector<std::string_view> lines_;
-  const std::function<void(const RowRepair&)>& on_repair_;
+  const std::function<void(RowRepair)>& on_repair_;
   std::deque<std::string> repaired_;  // rows that calls are seen in
   SeenCalls seen_;
   RescoredLog log_;
@@ -190,7 +190,7 @@ class Rescorer {
 
 }  // namespace
 
-RescoredLog Rescore(std::string_view text, const std::function<void(const RowRepair&)>& on_repair) {
+RescoredLog Rescore(std::string_view text, const std::function<void(RowRepair)>& on_repair) {
   return Rescorer(text, on_repair).Run();
 }
 

@@ -46,8 +46,8 @@ struct RowRepair {
   std::size_t line;      ///< in the file, counted from 1
   char found;            ///< ":" or "." that stood for ";"
   std::size_t position;  ///< of the first one in the row, counted from 1
-  std::string_view before;
-  std::string_view after;
+  std::string before;
+  std::string after;
 };
 
 /// A log scored at one point per kilometre.
@@ -68,6 +68,6 @@ inline constexpr std::size_t kMostLogQsos = 1'000;
 /// Scores each QSO of a log anew and puts the mark of the recalculation into its end row. The
 /// punctuation of the QSO rows is repaired on the way, and each repair is told as it is made.
 /// Raises error 9 for a log that is too long, and what the distance raises.
-RescoredLog Rescore(std::string_view text, const std::function<void(const RowRepair&)>& on_repair);
+RescoredLog Rescore(std::string_view text, const std::function<void(RowRepair)>& on_repair);
 
 }  // namespace velmar
