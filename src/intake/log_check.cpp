@@ -128,7 +128,8 @@ class Checker {
   }
 
   bool Refuse(LogFaultKind kind, std::size_t number = 0, std::string_view text = {}) {
-    fault_ = LogFault{kind, owner_.call(), owner_.locator(), number, 0, std::string(text), {}};
+    fault_ =
+        LogFault{kind, owner_.declared_call(), owner_.locator(), number, 0, std::string(text), {}};
     for (std::size_t i = 0; i < kHeadingRows; ++i) {
       fault_->heading.emplace_back(i < heading_.size() ? heading_[i] : std::string_view());
     }

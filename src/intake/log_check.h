@@ -20,7 +20,7 @@ enum class LogFaultKind {
 
 struct LogFault {
   LogFaultKind kind;
-  std::string own_call;
+  std::string own_call;  ///< as the log declares it
   std::string own_locator;
   std::size_t number = 0;      ///< of the QSO among the QSO rows, or of the header row; from 1
   std::size_t semicolons = 0;  ///< of the row at fault

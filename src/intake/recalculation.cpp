@@ -200,7 +200,7 @@ void Recalculation::WriteLog(const std::string& name, const Rescoring& rescoring
 void Recalculation::EndOnOwnLocator(const LogOwner& owner) {
   rescoring_.clear();
   Trap([&] { RemoveMatching(files_, session_.workspace.recalculated(), "*.edi"); });
-  Show(OwnLocatorBox(owner.call(), owner.locator()));
+  Show(OwnLocatorBox(owner.declared_call(), owner.locator()));
   throw ProgramEnd();
 }
 

@@ -24,7 +24,8 @@ bool IsUntidyCall(std::string_view line) {
 }  // namespace
 
 void LogOwner::TakeCall(const std::vector<std::string_view>& lines) {
-  call_ = WithoutBlanks(FindOwnCall(lines));
+  declared_call_ = FindOwnCall(lines);
+  call_ = WithoutBlanks(declared_call_);
   if (lines.size() >= kCallLine && IsUntidyCall(lines[kCallLine - 1])) {
     call_ = Upper(call_);
   }

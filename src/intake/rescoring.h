@@ -20,7 +20,8 @@ class LogOwner {
   /// Takes the value of the locator row; blanks around it do not count.
   void SetLocator(std::string_view value);
 
-  const std::string& call() const { return call_; }
+  const std::string& declared_call() const { return declared_call_; }  ///< as it stands in the log
+  const std::string& call() const { return call_; }                    ///< in order
   const std::string& locator() const { return locator_; }  ///< in capitals, valid or not
 
   /// Whether the locator is one, so that the station has a place.
@@ -34,6 +35,7 @@ class LogOwner {
   int PointsTo(std::string_view locator) const;
 
  private:
+  std::string declared_call_;
   std::string call_;
   std::string base_;
   std::string locator_;

@@ -81,6 +81,10 @@ TEST(FindLogFault, FindsTheFirstReason) {
   }
 }
 
+TEST(FindLogFault, TellsTheCallAsTheLogDeclaresIt) {
+  EXPECT_EQ(FindLogFault(LogText(" ik2 qaa", "JO20AA", {}))->own_call, " ik2 qaa");
+}
+
 TEST(FindLogFault, TellsTheObsoleteWriterByItsThirdRow) {
   const auto lines = SplitLines(kGood);
   std::string log;
