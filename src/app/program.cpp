@@ -17,14 +17,15 @@ namespace velmar {
 struct Program::Modules {
   Modules(const std::string& base_dir, const Ports& ports)
       : session(base_dir),
-        months(session, ports.files, ports.manager, ports.clock),
-        config(session, ports.files, ports.manager, screen, main, check),
-        month_dialog(session, ports.files, ports.manager, ports.clock, screen, main, config),
+        trap(ports.manager),
+        months(session, ports.files, ports.manager, trap, ports.clock),
+        config(session, ports.files, ports.manager, trap, screen, main, check),
+        month_dialog(session, ports.files, ports.manager, trap, ports.clock, screen, main, config),
         recalculation(session, ports.files, ports.manager, screen, main),
         leaving(session, ports.files, ports.manager, main),
-        menu(session, ports.files, ports.manager, screen, main, months,
+        menu(session, ports.files, ports.manager, trap, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); }}),
-        start_up(session, ports, screen, main, info, months, month_dialog) {
+        start_up(session, ports, trap, screen, main, info, months, month_dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
                                                    &recalculation.form(), &check, &info}) {
       screen.Add(*form);
@@ -36,6 +37,7 @@ struct Program::Modules {
   MainForm main;
   CheckForm check;
   InfoForm info;
+  MenuTrap trap;
   MonthAssignment months;
   ConfigDialog config;
   MonthDialog month_dialog;

@@ -23,8 +23,6 @@ struct HeaderKey {
 constexpr std::array<HeaderKey, 5> kKeys = {
     {{4, "PCall="}, {5, "PWWLo="}, {6, "PExch="}, {9, "PSect="}, {10, "PBand="}}};
 
-constexpr std::size_t kCallField = 3;
-constexpr std::size_t kLocatorField = 10;
 constexpr std::size_t kHeadingRows = 5;
 constexpr std::string_view kObsoleteMark = "-SUP";  ///< what the obsolete writer has as its row 3
 
@@ -107,9 +105,9 @@ class Checker {
       repaired = RepairedRow(row);
       row = repaired;
     }
-    const std::string locator = Upper(QsoField(row, kLocatorField));
+    const std::string locator = Upper(QsoField(row, edi::kLocatorField));
     return locator.size() != 6 || LocatorValid(locator) || DoesNotCount(row) ||
-           Refuse(LogFaultKind::kQsoLocator, number_, QsoField(row, kLocatorField));
+           Refuse(LogFaultKind::kQsoLocator, number_, QsoField(row, edi::kLocatorField));
   }
 
   /// Whether a row scores nothing whatever its locator is.
@@ -122,9 +120,9 @@ class Checker {
   bool IsRepeated(std::string_view row) {
     for (; calls_taken_ < number_ - 1; ++calls_taken_) {
       const std::string earlier = RepairedRow(qsos_[calls_taken_]);
-      calls_.emplace(owner_.IsOwn(earlier) ? "ERROR" : QsoField(earlier, kCallField));
+      calls_.emplace(owner_.IsOwn(earlier) ? "ERROR" : QsoField(earlier, edi::kCallField));
     }
-    return calls_.contains(std::string(QsoField(row, kCallField)));
+    return calls_.contains(std::string(QsoField(row, edi::kCallField)));
   }
 
   bool Refuse(LogFaultKind kind, std::size_t number = 0, std::string_view text = {}) {

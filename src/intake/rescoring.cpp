@@ -118,7 +118,7 @@ class Rescorer {
     if (marks.own_locator) {
       log_.owner.SetLocator(Mid(line, edi::kValueColumn));
     }
-    if (marks.closes_qsos && Holds(line, "[END;")) {
+    if (marks.closes_qsos && Holds(line, edi::kEndRow)) {
       Write(edi::kRecalculated, line);
       ended_ = true;
     } else if (in_qsos_ && !marks.opens_qsos) {

@@ -20,17 +20,17 @@ QsoRecord SplitQso(std::string_view row) {
     if (row[at] == ';') {
       const std::string_view whole = row.substr(begin, at - begin);
       const std::string_view trimmed = Trim(whole);
-      qso.fields[field++] = trimmed;
+      qso.fields_[field++] = trimmed;
       if (field == QsoRecord::kFields) {
-        qso.tail = row.substr(at);
-        qso.unchanged = tidy ? row.substr(0, begin) : std::string_view();
+        qso.tail_ = row.substr(at);
+        qso.unchanged_ = tidy ? row.substr(0, begin) : std::string_view();
         return qso;
       }
       tidy = tidy && trimmed.size() == whole.size();
       begin = at + 1;
     }
   }
-  qso.fields[field] = Trim(row.substr(begin));
+  qso.fields_[field] = Trim(row.substr(begin));
   return qso;
 }
 
@@ -57,18 +57,18 @@ std::string JoinQso(const QsoRecord& qso) {
 }
 
 void AppendQso(const QsoRecord& qso, std::string& text) {
-  if (!qso.unchanged.empty()) {
-    text += qso.unchanged;
+  if (!qso.unchanged_.empty()) {
+    text += qso.unchanged_;
     text += qso.points();
-    text += qso.tail;
+    text += qso.tail_;
     return;
   }
-  for (const std::string_view field : qso.fields) {
+  for (const std::string_view field : qso.fields_) {
     text += field;
     text += ';';
   }
   text.pop_back();
-  text += qso.tail;
+  text += qso.tail_;
 }
 
 std::string_view FindOwnCall(const std::vector<std::string_view>& lines) {

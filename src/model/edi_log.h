@@ -14,11 +14,17 @@ namespace edi {
 
 inline constexpr std::string_view kFirstRow = "[REG1TEST;1]";
 inline constexpr std::string_view kQsoRecords =
-    "QSORecords";                                 ///< held by the row ahead of the QSOs
-inline constexpr std::string_view kEnd = "[END";  ///< held by the row behind the QSOs
+    "QSORecords";                                     ///< held by the row ahead of the QSOs
+inline constexpr std::string_view kEnd = "[END";      ///< held by the row behind the QSOs
+inline constexpr std::string_view kEndRow = "[END;";  ///< the same with the writer's text
 inline constexpr std::string_view kRecalculated = "[END; recalculated for VLM]";
-inline constexpr std::size_t kValueColumn = 7;        ///< where the value of a header row begins
-inline constexpr std::size_t kSemicolons = 14;        ///< of a whole QSO row
+inline constexpr std::size_t kValueColumn = 7;  ///< where the value of a header row begins
+inline constexpr std::size_t kSemicolons = 14;  ///< of a whole QSO row
+inline constexpr std::size_t kDateField = 1;
+inline constexpr std::size_t kTimeField = 2;
+inline constexpr std::size_t kCallField = 3;  ///< fields of a QSO row, counted from 1
+inline constexpr std::size_t kLocatorField = 10;
+inline constexpr std::size_t kPointsField = 11;
 inline constexpr std::size_t kShortestQso = 7;        ///< rows of fewer characters are passed over
 inline constexpr std::size_t kMostHeaderRows = 1000;  ///< lines that are looked at for the own call
 
@@ -34,25 +40,33 @@ HeaderRow ParseHeaderRow(std::string_view row);
 
 /// One QSO row. The first 11 of the 15 fields are parsed and trimmed; what follows the points stays
 /// one text, from its ";" on, and is never parsed.
-struct QsoRecord {
+class QsoRecord {
+ public:
   static constexpr std::size_t kFields = 11;
 
-  std::array<std::string_view, kFields> fields;
-  std::string_view tail;
-  std::string_view unchanged;  ///< the row up to its points, where it stands as the fields do
+  /// A field by its number, from 1 to 11.
+  std::string_view field(std::size_t number) const { return fields_.at(number - 1); }
+  std::string_view tail() const { return tail_; }
 
-  // The fields by their content, in the order of the row.
-  std::string_view date() const { return fields[0]; }     ///< YYMMDD
-  std::string_view time() const { return fields[1]; }     ///< HHMM, UTC
-  std::string_view call() const { return fields[2]; }     ///< of the other station
-  std::string_view locator() const { return fields[9]; }  ///< of the other station
-  std::string_view points() const { return fields[10]; }  ///< km
+  std::string_view date() const { return field(edi::kDateField); }        ///< YYMMDD
+  std::string_view time() const { return field(edi::kTimeField); }        ///< HHMM, UTC
+  std::string_view call() const { return field(edi::kCallField); }        ///< the other station's
+  std::string_view locator() const { return field(edi::kLocatorField); }  ///< the other station's
+  std::string_view points() const { return field(edi::kPointsField); }    ///< km
 
   void set_call(std::string_view call) {
-    fields[2] = call;
-    unchanged = {};
+    fields_[edi::kCallField - 1] = call;
+    unchanged_ = {};
   }
-  void set_points(std::string_view points) { fields[10] = points; }
+  void set_points(std::string_view points) { fields_[edi::kPointsField - 1] = points; }
+
+ private:
+  friend QsoRecord SplitQso(std::string_view row);
+  friend void AppendQso(const QsoRecord& qso, std::string& text);
+
+  std::array<std::string_view, kFields> fields_;
+  std::string_view tail_;
+  std::string_view unchanged_;  // the row ahead of its points, while it stands as the fields do
 };
 
 /// Cuts a QSO row at its ";". A row with fewer fields has empty ones at the end.

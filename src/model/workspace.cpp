@@ -5,7 +5,7 @@
 namespace velmar {
 
 std::string Workspace::contest_date(std::string_view category_code) const {
-  const std::string code(Left(category_code, 3));
+  const std::string code(CategoryCode(category_code));
   return category(code) + "/" + code + " data contest.dat";
 }
 

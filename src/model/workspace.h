@@ -8,6 +8,11 @@ namespace velmar {
 /// The code of the contest's category.
 inline constexpr std::string_view kCategory = "2IT";
 
+/// The category that a text begins with: a category, a log's file name or a date line.
+constexpr std::string_view CategoryCode(std::string_view text) {
+  return text.substr(0, 3);
+}
+
 /// The folders and files of the program, by their fixed names: blanks and capitals belong to them.
 /// Every file name that the system uses is made here.
 class Workspace {

@@ -7,6 +7,7 @@ namespace velmar::hosts {
 /// The hosts that the program talks to. They stand at this machine until whoever publishes the
 /// program puts the real ones here, so that nothing built from these sources sends traffic away.
 inline constexpr std::string_view kPing = "127.0.0.1";
-inline constexpr std::string_view kVersionSite = "http://127.0.0.1";
+inline constexpr std::string_view kVersionText =
+    "http://127.0.0.1/varto/versione_varto_velmar144.txt";  ///< the newest short version
 
 }  // namespace velmar::hosts

@@ -59,14 +59,14 @@ std::array<ConfigForm::Line, kSettings> ConfigForm::AddLines() {
 }
 
 ConfigDialog::ConfigDialog(ContestSession& session, FileSystem& files, Manager& manager,
-                           Screen& screen, MainForm& main, CheckForm& check)
+                           MenuTrap& trap, Screen& screen, MainForm& main, CheckForm& check)
     : session_(session),
       files_(files),
       manager_(manager),
       screen_(screen),
       main_(main),
       check_(check),
-      trap_(manager) {
+      trap_(trap) {
   form_.Command2.on_click = [this] { Command2_Click(); };
 }
 

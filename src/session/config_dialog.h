@@ -44,8 +44,8 @@ struct ConfigForm : Form {
 /// The configuration dialog, the last screen of a start.
 class ConfigDialog {
  public:
-  ConfigDialog(ContestSession& session, FileSystem& files, Manager& manager, Screen& screen,
-               MainForm& main, CheckForm& check);
+  ConfigDialog(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
+               Screen& screen, MainForm& main, CheckForm& check);
 
   ConfigForm& form() { return form_; }
 
@@ -70,7 +70,7 @@ class ConfigDialog {
   Screen& screen_;
   MainForm& main_;
   CheckForm& check_;
-  MenuTrap trap_;
+  MenuTrap& trap_;
   ConfigForm form_;
 };
 

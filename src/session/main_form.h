@@ -90,6 +90,9 @@ class MainForm : public Form {
 
   Button& esci = AddButton("esci", "&Esci");
 
+  /// The controls of the header of the log.
+  const std::vector<Control*>& panel() const { return panel_; }
+
   /// Show or hide the header of the log as one block.
   void ShowHeaderPanel() { SetPanel(true); }
   void HideHeaderPanel() { SetPanel(false); }

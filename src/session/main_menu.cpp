@@ -9,14 +9,14 @@
 
 namespace velmar {
 
-MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager, Screen& screen,
-                   MainForm& form, MonthAssignment& months, MenuSteps steps)
+MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
+                   Screen& screen, MainForm& form, MonthAssignment& months, MenuSteps steps)
     : session_(session),
       files_(files),
       manager_(manager),
       screen_(screen),
       form_(form),
-      trap_(manager),
+      trap_(trap),
       steps_(std::move(steps)) {
   OnClick(form.restore_1KM, &MainMenu::restore_1KM_Click);
   OnClick(form.Rinomina_ita, &MainMenu::Rinomina_ita_Click);

@@ -20,8 +20,8 @@ struct MenuSteps {
 /// The menu and the small controls of the main screen.
 class MainMenu {
  public:
-  MainMenu(ContestSession& session, FileSystem& files, Manager& manager, Screen& screen,
-           MainForm& form, MonthAssignment& months, MenuSteps steps);
+  MainMenu(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
+           Screen& screen, MainForm& form, MonthAssignment& months, MenuSteps steps);
 
   void restore_1KM_Click();
   /// Logs that wait to be inserted are not to be mixed with newly renamed ones: they end the
@@ -50,7 +50,7 @@ class MainMenu {
   Manager& manager_;
   Screen& screen_;
   MainForm& form_;
-  MenuTrap trap_;
+  MenuTrap& trap_;
   MenuSteps steps_;
 };
 

@@ -7,7 +7,8 @@
 
 namespace velmar {
 
-/// The error trap of start-up and of the main menu: the one place that sorts their failures.
+/// The error trap of start-up, the main menu and their dialogs: the one place that sorts their
+/// failures. They share one, so that a message names the step that really failed.
 class MenuTrap {
  public:
   explicit MenuTrap(Manager& manager) : manager_(manager) {}

@@ -39,7 +39,7 @@ std::string YearOf(std::string_view text) {
 }
 
 std::string ContestDateDefault(std::string_view category, std::string_view month) {
-  if (Left(category, 3) == kCategory) {
+  if (CategoryCode(category) == kCategory) {
     for (const KnownDate& known : kKnownDates) {
       if (known.month == month) {
         return std::string(known.date);

@@ -69,7 +69,8 @@ void MonthAssignment::RepairMonth() {
 
 bool MonthAssignment::ReadContestDate(std::string_view category) {
   for (;;) {
-    const bool has_folder = files_.FolderExists(session_.workspace.category(Left(category, 3)));
+    const bool has_folder =
+        files_.FolderExists(session_.workspace.category(CategoryCode(category)));
     const auto text =
         has_folder ? ReadIfThere(files_, session_.workspace.contest_date(category)) : std::nullopt;
     if (text) {
@@ -79,15 +80,15 @@ bool MonthAssignment::ReadContestDate(std::string_view category) {
     const std::string answer =
         Upper(manager_
                   .Ask({"CATEGORIA spazio  DATA CONTEST",
-                        {Join(" Scrivi la categoria e data del contest ( ", Left(category, 3),
+                        {Join(" Scrivi la categoria e data del contest ( ", CategoryCode(category),
                               " AAMMGG )")},
                         ContestDateDefault(category, session_.category_month)})
                   .value_or(""));
     if (answer.empty()) {
       return false;
     }
-    if (!files_.FolderExists(session_.workspace.category(Left(answer, 3)))) {
-      files_.MakeFolder(session_.workspace.category(Left(answer, 3)));
+    if (!files_.FolderExists(session_.workspace.category(CategoryCode(answer)))) {
+      files_.MakeFolder(session_.workspace.category(CategoryCode(answer)));
     }
     files_.WriteAll(session_.workspace.contest_date(answer), Join(answer, kLineEnd));
   }

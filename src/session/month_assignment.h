@@ -15,8 +15,9 @@ namespace velmar {
 /// The ways in which the month and the date of the contest are typed by hand.
 class MonthAssignment {
  public:
-  MonthAssignment(ContestSession& session, FileSystem& files, Manager& manager, Clock& clock)
-      : session_(session), files_(files), manager_(manager), clock_(clock), trap_(manager) {}
+  MonthAssignment(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
+                  Clock& clock)
+      : session_(session), files_(files), manager_(manager), clock_(clock), trap_(trap) {}
 
   /// The menu item that gives the category store its month. It neither tests for January nor writes
   /// the month to check, so that a month that differs is found at the next start.
@@ -39,7 +40,7 @@ class MonthAssignment {
   FileSystem& files_;
   Manager& manager_;
   Clock& clock_;
-  MenuTrap trap_;
+  MenuTrap& trap_;
 };
 
 }  // namespace velmar

@@ -33,8 +33,9 @@ MonthForm::MonthForm()
       Combo_mese(AddCombo("Combo_mese", MonthRows())),
       Combo_anno(AddCombo("Combo_anno", YearRows())) {}
 
-MonthDialog::MonthDialog(ContestSession& session, FileSystem& files, Manager& manager, Clock& clock,
-                         Screen& screen, MainForm& main, ConfigDialog& config)
+MonthDialog::MonthDialog(ContestSession& session, FileSystem& files, Manager& manager,
+                         MenuTrap& trap, Clock& clock, Screen& screen, MainForm& main,
+                         ConfigDialog& config)
     : session_(session),
       files_(files),
       manager_(manager),
@@ -42,7 +43,7 @@ MonthDialog::MonthDialog(ContestSession& session, FileSystem& files, Manager& ma
       screen_(screen),
       main_(main),
       config_(config),
-      trap_(manager) {
+      trap_(trap) {
   form_.Combo_mese.on_change = [this] { Combo_mese_Change(); };
   form_.OK_mese.on_click = [this] { OK_mese_Click(); };
 }

@@ -30,8 +30,8 @@ struct MonthForm : Form {
 /// The month dialog, which every start ends in, and which goes on to the configuration dialog.
 class MonthDialog {
  public:
-  MonthDialog(ContestSession& session, FileSystem& files, Manager& manager, Clock& clock,
-              Screen& screen, MainForm& main, ConfigDialog& config);
+  MonthDialog(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
+              Clock& clock, Screen& screen, MainForm& main, ConfigDialog& config);
 
   MonthForm& form() { return form_; }
 
@@ -54,7 +54,7 @@ class MonthDialog {
   Screen& screen_;
   MainForm& main_;
   ConfigDialog& config_;
-  MenuTrap trap_;
+  MenuTrap& trap_;
   MonthForm form_;
   int remembered_ = 0;  ///< row of the month that the dialog opened with
 };

@@ -353,9 +353,8 @@ void StartUp::CheckVersion() {
     return;
   }
   std::string fetched;
-  const bool answered = trap_.Tolerate([&] {
-    fetched = ports_.web.Fetch(Join(hosts::kVersionSite, "/varto/versione_varto_velmar144.txt"));
-  });
+  const bool answered =
+      trap_.Tolerate([&] { fetched = ports_.web.Fetch(std::string(hosts::kVersionText)); });
   if (!answered) {
     session_.online = false;
     return;

@@ -18,8 +18,8 @@ namespace velmar {
 /// that tell which step is next. It ends in the month dialog, or ends the program.
 class StartUp {
  public:
-  StartUp(ContestSession& session, const Ports& ports, Screen& screen, MainForm& main,
-          InfoForm& info, MonthAssignment& months, MonthDialog& month_dialog)
+  StartUp(ContestSession& session, const Ports& ports, MenuTrap& trap, Screen& screen,
+          MainForm& main, InfoForm& info, MonthAssignment& months, MonthDialog& month_dialog)
       : session_(session),
         ports_(ports),
         screen_(screen),
@@ -27,7 +27,7 @@ class StartUp {
         info_(info),
         months_(months),
         month_dialog_(month_dialog),
-        trap_(ports.manager) {}
+        trap_(trap) {}
 
   /// Runs the chain. An unexpected error is told and leaves the main screen as it then is.
   void Run();
@@ -72,7 +72,7 @@ class StartUp {
   InfoForm& info_;
   MonthAssignment& months_;
   MonthDialog& month_dialog_;
-  MenuTrap trap_;
+  MenuTrap& trap_;
 };
 
 }  // namespace velmar

@@ -24,18 +24,6 @@ constexpr int kStepWidth = 360;
 constexpr QSize kSmallest(860, 560);
 constexpr QSize kUsual(1000, 640);
 
-/// The controls that are text fields with a caption: the header of the log.
-std::vector<const Control*> HeaderControls(const MainForm& form) {
-  std::vector<const Control*> found;
-  for (const auto& control : form.controls()) {
-    if (control->kind() == ControlKind::kText && !control->caption.empty()) {
-      found.push_back(control.get());
-    }
-  }
-  found.insert(found.end(), {&form.Rookie, &form.Young, &form.Command1});
-  return found;
-}
-
 /// A button that stands for an item of the menu, its tick included.
 QPushButton* MakeStep(QAction& item) {
   auto* step = new QPushButton;
@@ -150,7 +138,7 @@ QWidget* MainWindow::MakeHeader() {
   marks->addStretch(1);
   rows->addLayout(marks);
   rows->addStretch(1);
-  ShowWithAny(*group, HeaderControls(form_));
+  ShowWithAny(*group, {form_.panel().begin(), form_.panel().end()});
   return group;
 }
 

@@ -36,7 +36,7 @@ TEST(SplitQso, NamesTheFieldsAndLeavesTheTail) {
   EXPECT_EQ(qso.call(), "IK2QAA/P");
   EXPECT_EQ(qso.locator(), "JN45OL");
   EXPECT_EQ(qso.points(), "99");
-  EXPECT_EQ(qso.tail, ";;N;;");
+  EXPECT_EQ(qso.tail(), ";;N;;");
   EXPECT_EQ(JoinQso(qso), kQso);
   qso.set_call("ERROR");
   qso.set_points("0");

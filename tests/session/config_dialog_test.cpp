@@ -52,7 +52,8 @@ class ConfigTest : public testing::Test {
   ContestSession session{workspace.paths().base()};
   MainForm main;
   CheckForm check;
-  ConfigDialog config{session, workspace.files(), manager, screen, main, check};
+  MenuTrap trap{manager};
+  ConfigDialog config{session, workspace.files(), manager, trap, screen, main, check};
 };
 
 TEST_F(ConfigTest, EachLineShowsItsSettingHereAndOnTheDesk) {

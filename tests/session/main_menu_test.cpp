@@ -30,14 +30,21 @@ class MainMenuTest : public testing::Test {
   Screen screen;
   ContestSession session{workspace.paths().base()};
   MainForm form;
-  MonthAssignment months{session, workspace.files(), manager, clock};
+  MenuTrap trap{manager};
+  MonthAssignment months{session, workspace.files(), manager, trap, clock};
   int opened = 0;
-  MainMenu menu{
-      session, workspace.files(), manager, screen, form, months, {.open_recalculation = [this] {
-        EXPECT_FALSE(form.visible());
-        EXPECT_TRUE(manager.boxes.empty()) << "the message comes behind the screen";
-        ++opened;
-      }}};
+  MainMenu menu{session,
+                workspace.files(),
+                manager,
+                trap,
+                screen,
+                form,
+                months,
+                {.open_recalculation = [this] {
+                  EXPECT_FALSE(form.visible());
+                  EXPECT_TRUE(manager.boxes.empty()) << "the message comes behind the screen";
+                  ++opened;
+                }}};
 };
 
 TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
@@ -144,7 +151,7 @@ TEST_F(MainMenuTest, DeletingALogIsANoticeOnly) {
 
 TEST_F(MainMenuTest, AFailingItemIsToldAndTheScreenStays) {
   test::FailingFileSystem files(workspace.files());
-  MainMenu failing(session, files, manager, screen, form, months, {});
+  MainMenu failing(session, files, manager, trap, screen, form, months, {});
   files.broken_path = "03 Log da inserire";
   form.File1.visible = false;
   files.number = ErrorNumber::kPathFileAccess;

@@ -48,9 +48,10 @@ class MonthTest : public testing::Test {
   ContestSession session{workspace.paths().base()};
   MainForm main;
   CheckForm check;
-  ConfigDialog config{session, workspace.files(), manager, screen, main, check};
-  MonthDialog dialog{session, workspace.files(), manager, clock, screen, main, config};
-  MonthAssignment months{session, workspace.files(), manager, clock};
+  MenuTrap trap{manager};
+  ConfigDialog config{session, workspace.files(), manager, trap, screen, main, check};
+  MonthDialog dialog{session, workspace.files(), manager, trap, clock, screen, main, config};
+  MonthAssignment months{session, workspace.files(), manager, trap, clock};
 };
 
 TEST_F(MonthTest, TheDialogOpensWithTheDateWhereNothingIsStored) {
@@ -100,6 +101,18 @@ TEST_F(MonthTest, TheMenuGivesTheStoreItsMonthOnce) {
   EXPECT_EQ(Verified(), "<missing>") << "the difference is found at the next start";
   months.ass_mese_Click();
   EXPECT_EQ(manager.boxes.back().lines.back(), " il mese attuale \xE8  MARZO 2024");
+}
+
+TEST_F(MonthTest, AFailureNamesTheStepThatFailed) {
+  test::FailingFileSystem files(workspace.files());
+  files.broken_path = "mese.dat";
+  MonthAssignment failing{session, files, manager, trap, clock};
+  manager.inputs = {"gennaio 2025"};
+  trap.Statement(99, [] {});
+  trap.Procedure([&] { failing.ass_mese_Click(); });
+  EXPECT_EQ(manager.TakeFirstLines(),
+            std::vector<std::string>{" errore imprevisto numero: 61 nella linea : 24 menu form "
+                                     "principale Contatta l' autore del software_0.0.8"});
 }
 
 TEST_F(MonthTest, TheRepairAsksUntilTheAnswerEndsInANumber) {

@@ -32,10 +32,12 @@ struct StartedProgram {
   StartedProgram(const std::string& base, FileSystem& files, Manager& manager, Clock& clock,
                  Machine& machine, Web& web)
       : session(base),
-        config(session, files, manager, screen, main, check),
-        dialog(session, files, manager, clock, screen, main, config),
-        months(session, files, manager, clock),
-        start(session, {files, manager, clock, machine, web}, screen, main, info, months, dialog) {
+        trap(manager),
+        config(session, files, manager, trap, screen, main, check),
+        dialog(session, files, manager, trap, clock, screen, main, config),
+        months(session, files, manager, trap, clock),
+        start(session, {files, manager, clock, machine, web}, trap, screen, main, info, months,
+              dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &dialog.form(), &config.form()}) {
       screen.Add(*form);
     }
@@ -54,6 +56,7 @@ struct StartedProgram {
   MainForm main;
   CheckForm check;
   InfoForm info;
+  MenuTrap trap;
   ConfigDialog config;
   MonthDialog dialog;
   MonthAssignment months;

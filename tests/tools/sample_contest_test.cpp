@@ -200,9 +200,10 @@ void ExpectMirrored(const Contest& contest, const Log& log, std::size_t row) {
   const QsoRecord& across = other.Row(mirrored[0]);
   EXPECT_LE(std::abs(Minutes(qso.time()) - Minutes(across.time())), 10);
   EXPECT_EQ(qso.locator(), contest.locators.at(other.call));
-  EXPECT_EQ(qso.fields[3], across.fields[3]);
+  EXPECT_EQ(qso.field(4), across.field(4));
   for (const std::size_t i : {0U, 1U}) {
-    EXPECT_EQ(qso.fields[kReport + i], across.fields[kReceived + i]) << log.call << " " << row;
+    EXPECT_EQ(qso.field(kReport + i + 1), across.field(kReceived + i + 1))
+        << log.call << " " << row;
   }
 }
 
@@ -301,15 +302,15 @@ TEST(SampleContest, QsoRowsFollowTheRules) {
       const std::ptrdiff_t semicolons =
           Middle().Has(call, row, FaultKind::kShortOfSemicolons) ? 12 : 14;
       EXPECT_EQ(std::ranges::count(text, ';'), semicolons) << text;
-      const std::string_view ahead_of_tail = Left(text, text.size() - qso.tail.size());
+      const std::string_view ahead_of_tail = Left(text, text.size() - qso.tail().size());
       EXPECT_EQ(ahead_of_tail.find_first_of(":."), std::string_view::npos) << text;
       EXPECT_EQ(Holds(text, OwnCallBase(call)), Middle().Has(call, row, FaultKind::kSelfQso));
       if (!Middle().Has(call, row, FaultKind::kTimeOff)) {
         EXPECT_GE(Minutes(qso.time()), last_time) << call << " " << row;
         last_time = Minutes(qso.time());
       }
-      EXPECT_GT(Val(qso.fields[5]), last_number);
-      last_number = static_cast<int>(Val(qso.fields[5]));
+      EXPECT_GT(Val(qso.field(6)), last_number);
+      last_number = static_cast<int>(Val(qso.field(6)));
       const bool error = Middle().Has(call, row, FaultKind::kErrorRow);
       EXPECT_TRUE(error || LocatorValid(qso.locator()) ||
                   Middle().Has(call, row, FaultKind::kBadQsoLocator));
@@ -369,7 +370,7 @@ void ExpectPresent(const Contest& contest, const PlantedFault& fault) {
       EXPECT_TRUE(qso.call() == "ERROR" && MarkedInvalid(log.edi.qsos[fault.qso - 1]));
       break;
     case FaultKind::kDeletedRow:
-      EXPECT_EQ(qso.fields[kExchange], "DELETED");
+      EXPECT_EQ(qso.field(kExchange + 1), "DELETED");
       EXPECT_EQ(RowsWith(contest.logs.at(fault.other), fault.log).size(), 1U);
       break;
     case FaultKind::kBadQsoLocator:
