@@ -49,6 +49,7 @@ class AbsentManager : public Manager {
     return std::nullopt;
   }
   void Beep(int /*times*/) override {}
+  bool StopWanted() override { return false; }
   void Progress(std::size_t /*done*/, std::size_t /*total*/) override {}
 
   int boxes = 0;

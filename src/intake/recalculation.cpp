@@ -145,24 +145,12 @@ std::string Recalculation::ConfirmLocator(const LogFault& fault) {
 void Recalculation::SetAside(const std::string& name, const std::string& suffix) {
   const std::string source = session_.workspace.to_recalculate() + "/" + name;
   files_.Append(session_.workspace.refused_names(), Join(name, kLineEnd));
-  const std::string target = FreeName(source, name, suffix);
-  files_.Copy(source, session_.workspace.to_check_again() + "/" + target);
+  const std::string folder = session_.workspace.to_check_again();
+  const std::string target = FreeName(files_, source, folder, name, suffix);
+  files_.Copy(source, folder + "/" + target);
   files_.Remove(source);
   RefreshLists();
   form_.outcome.items.Add(Join(name, "  spostato in 'Log da ricontrollare': ", target));
-}
-
-std::string Recalculation::FreeName(const std::string& source, const std::string& name,
-                                    const std::string& suffix) {
-  // Another log may lie there under this name, set aside earlier: it is not to be lost.
-  std::string target = name + suffix;
-  for (int number = 2;; ++number) {
-    const auto there = ReadIfThere(files_, session_.workspace.to_check_again() + "/" + target);
-    if (!there || *there == files_.ReadAll(source)) {
-      return target;
-    }
-    target = Join(name, " (", number, ")", suffix);
-  }
 }
 
 void Recalculation::RescoreLogs() {

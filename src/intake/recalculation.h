@@ -60,8 +60,6 @@ class Recalculation {
   void Refuse(const std::string& name, const LogFault& fault);
   std::string ConfirmLocator(const LogFault& fault);
   void SetAside(const std::string& name, const std::string& suffix);
-  std::string FreeName(const std::string& source, const std::string& name,
-                       const std::string& suffix);
 
   // The second pass.
   void RescoreLogs();

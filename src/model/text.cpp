@@ -68,6 +68,19 @@ std::string Str(long long number) {
   return text;
 }
 
+std::string StrReal(double number, int digits) {
+  std::array<char, 32> buffer{};
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                          std::abs(number), std::chars_format::general, digits);
+  std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  if (text.starts_with("0.")) {
+    text.remove_prefix(1);
+  }
+  std::string signed_text = number < 0 ? "-" : " ";
+  signed_text += text;
+  return signed_text;
+}
+
 double Val(std::string_view text) {
   text = LTrim(text);
   const bool negative = text.starts_with('-');
@@ -83,7 +96,7 @@ double Val(std::string_view text) {
 }
 
 std::string Call12(std::string_view call) {
-  return Pad(Upper(call), 12);
+  return Pad(Upper(call), kCallWidth);
 }
 
 std::string Loc6(std::string_view locator) {

@@ -61,9 +61,15 @@ std::string Pad(std::string_view text, std::size_t width);
 /// on that blank.
 std::string Str(long long number);
 
+/// The same for a number that may have a fraction, with at most `digits` of them (7 for a number in
+/// single precision) and without a zero ahead of the point: " 1.5", " .5".
+std::string StrReal(double number, int digits = 15);
+
 /// The number that stands at the start of a text, behind blanks: a sign, digits and a decimal
 /// point, each if it is there. 0 when there is none.
 double Val(std::string_view text);
+
+inline constexpr std::size_t kCallWidth = 12;  ///< of a call in the store files
 
 /// A call in capitals, padded or cut to 12 characters: its form in the store files.
 std::string Call12(std::string_view call);

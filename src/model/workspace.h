@@ -8,10 +8,32 @@ namespace velmar {
 /// The code of the contest's category.
 inline constexpr std::string_view kCategory = "2IT";
 
+/// What stands between the category and the month in the name of a classification.
+inline constexpr std::string_view kClassificationTitle = " Classifica Mensile 144 ";
+
 /// The category that a text begins with: a category, a log's file name or a date line.
 constexpr std::string_view CategoryCode(std::string_view text) {
   return text.substr(0, 3);
 }
+
+/// The files of the contest store, of which each category has its own.
+enum class StoreFile {
+  kLibreria,
+  kLibreriaTotale,
+  kSommaQso,
+  kSommaSlx,
+  kPartecipanti,
+  kModi,
+  kTempi,
+  kStatisticaDx,
+  kControlLog,
+  kCwQsos,
+  kCwCalls,
+  kContestTeam
+};
+
+/// The name under which a log is filed and a file of its own is made: "/" can't stand in it.
+std::string NameOfCall(std::string_view call);
 
 /// The folders and files of the program, by their fixed names: blanks and capitals belong to them.
 /// Every file name that the system uses is made here.
@@ -39,14 +61,19 @@ class Workspace {
   std::string month_to_check() const { return store() + "/mese_verifica.dat"; }
   std::string category_month() const { return category() + "/mese.dat"; }
   std::string refused_names() const { return store() + "/file_non_corretti.dat"; }
-  std::string participants() const { return category() + "/2IT partecipanti.par"; }
-  std::string total_library() const { return category() + "/2ITlibreria_totale.tot"; }
+
+  /// A file of the store. There is a blank in some of these names and none in others.
+  std::string store_file(StoreFile file, std::string_view category = kCategory) const;
+
+  /// The error list of a log, by its call and the month in capitals.
+  std::string error_list(std::string_view category, std::string_view call,
+                         std::string_view month) const;
 
   /// The contest date of a category, of which the first three characters count.
   std::string contest_date(std::string_view category_code) const;
 
   /// The classification of a month such as "GENNAIO 2025".
-  std::string classification(std::string_view month) const;
+  std::string classification(std::string_view month, std::string_view category = kCategory) const;
 
  private:
   std::string base_;

@@ -130,6 +130,18 @@ class OpenFile {
 
   void MindProtection() { velmar::MindProtection(Status(), path_); }
 
+  /// Writes behind what is there; a failure takes back what it had written.
+  void Append(std::string_view bytes) {
+    const off_t size = Status().st_size;
+    try {
+      Write(bytes);
+    } catch (const RunTimeError&) {
+      // Where even that fails, the first failure is the one to be told.
+      static_cast<void>(ftruncate(descriptor_, size) == 0);
+      throw;
+    }
+  }
+
   void Write(std::string_view bytes) {
     while (!bytes.empty()) {
       const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
@@ -202,6 +214,16 @@ bool DiskFileSystem::FolderExists(const std::string& path) {
   return IsFolder(OnDisk(path));
 }
 
+std::optional<FileStamp> DiskFileSystem::StampOf(const std::string& path) {
+  struct stat status {};
+  if (stat(OnDisk(path).c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    return std::nullopt;
+  }
+  constexpr std::int64_t kSecond = 1'000'000'000;
+  return FileStamp{static_cast<std::uint64_t>(status.st_size),
+                   status.st_mtim.tv_sec * kSecond + status.st_mtim.tv_nsec, status.st_ino};
+}
+
 std::string DiskFileSystem::ReadAll(const std::string& path) {
   const std::string disk_path = OnDisk(path);
   return OpenFile(disk_path, O_RDONLY).Read();
@@ -214,7 +236,7 @@ void DiskFileSystem::WriteAll(const std::string& path, std::string_view bytes) {
 void DiskFileSystem::Append(const std::string& path, std::string_view bytes) {
   OpenFile file(OnDisk(path), O_WRONLY | O_CREAT | O_APPEND);
   file.MindProtection();
-  file.Write(bytes);
+  file.Append(bytes);
   file.Close();
 }
 

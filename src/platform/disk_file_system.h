@@ -15,6 +15,7 @@ class DiskFileSystem : public FileSystem {
   DiskFileSystem();
 
   bool FolderExists(const std::string& path) override;
+  std::optional<FileStamp> StampOf(const std::string& path) override;
   std::string ReadAll(const std::string& path) override;
   void WriteAll(const std::string& path, std::string_view bytes) override;
   void Append(const std::string& path, std::string_view bytes) override;

@@ -78,6 +78,18 @@ std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& pat
   }
 }
 
+std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
+                     const std::string& name, const std::string& ending) {
+  std::string target = name + ending;
+  for (int number = 2;; ++number) {
+    const auto there = ReadIfThere(files, folder + "/" + target);
+    if (!there || *there == files.ReadAll(source)) {
+      return target;
+    }
+    target = name + " (" + std::to_string(number) + ")" + ending;
+  }
+}
+
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern) {
   const std::string prefix = folder + "/";
   for (const std::string& name : files.List(folder, pattern)) {

@@ -1,11 +1,21 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace velmar {
+
+/// What tells one state of a file from another without reading it.
+struct FileStamp {
+  std::uint64_t size = 0;      ///< bytes
+  std::int64_t modified = 0;   ///< ns since the epoch of the file system
+  std::uint64_t identity = 0;  ///< another one for a file that took the place of the old one
+
+  bool operator==(const FileStamp&) const = default;
+};
 
 /// The disk. All file access of the program goes through this port, so that a test can fill the
 /// disk, lock a file or stop the machine between two steps.
@@ -20,6 +30,9 @@ class FileSystem {
 
   virtual bool FolderExists(const std::string& path) = 0;
 
+  /// The stamp of a file; nothing when there is no such file.
+  virtual std::optional<FileStamp> StampOf(const std::string& path) = 0;
+
   /// The whole content of a file.
   virtual std::string ReadAll(const std::string& path) = 0;
 
@@ -27,7 +40,8 @@ class FileSystem {
   /// the file is the old one or the new one, never a part of one.
   virtual void WriteAll(const std::string& path, std::string_view bytes) = 0;
 
-  /// Adds `bytes` behind the file's content, or makes the file; opens, writes and closes.
+  /// Adds `bytes` behind the file's content, or makes the file; opens, writes and closes. Where the
+  /// disk fails on the way, the file keeps its old content.
   virtual void Append(const std::string& path, std::string_view bytes) = 0;
 
   /// The names of the files (no folders, no hidden ones) in `folder` that fit `pattern`, in name
@@ -62,6 +76,12 @@ bool HoldsFiles(FileSystem& files, const std::string& folder, std::string_view p
 
 /// The content of a file, or nothing when the file is missing (53). Other errors pass through.
 std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& path);
+
+/// The name under which a copy of `source` overwrites no other file in `folder`: `name` and
+/// `ending`, or with " (2)", " (3)" and so on between the two while a file of that name with
+/// another content is there.
+std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
+                     const std::string& name, const std::string& ending);
 
 /// Removes every file of `folder` that fits `pattern`; none at all is no error.
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern);

@@ -56,6 +56,9 @@ class Manager {
 
   virtual void Beep(int times) = 0;
 
+  /// Whether the manager has asked, by Esc, that a run should end early; true once for each time.
+  virtual bool StopWanted() = 0;
+
   /// Tells that `done` of `total` units of a long work are over. Cheap enough to be called for each
   /// unit; keeps the windows alive.
   virtual void Progress(std::size_t done, std::size_t total) = 0;

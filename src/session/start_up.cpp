@@ -223,12 +223,12 @@ void StartUp::ReadMonths() {
 
 void StartUp::ReadStore() {
   trap_.Statement(17, [&] {
-    if (const auto text = ReadIfThere(ports_.files, session_.workspace.participants())) {
+    if (const auto text = ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kPartecipanti))) {
       Fill(session_.participants, *text);
     }
   });
   trap_.Statement(17, [&] {
-    if (const auto text = ReadIfThere(ports_.files, session_.workspace.total_library())) {
+    if (const auto text = ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kLibreriaTotale))) {
       Fill(session_.total_library, *text);
     }
   });

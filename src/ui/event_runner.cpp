@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QKeyEvent>
 #include <exception>
+#include <utility>
 
 #include "platform/error.h"
 
@@ -56,6 +58,7 @@ void EventRunner::Run(const std::function<void()>& event) {
     return;
   }
   running_ = true;
+  stop_requested_ = false;
   since_event_.start();
   since_breath_.start();
   Guard([&] {
@@ -111,6 +114,11 @@ void EventRunner::Breathe() {
   since_breath_.start();
 }
 
+bool EventRunner::TakeStopRequest() {
+  DropInput();
+  return std::exchange(stop_requested_, false);
+}
+
 int EventRunner::Converse(QDialog& dialog) {
   Refresh();
   DropInput();
@@ -140,8 +148,13 @@ void EventRunner::SetBusy(bool busy) {
 }
 
 bool EventRunner::eventFilter(QObject* watched, QEvent* event) {
-  return (running_ && !conversing_ && IsInput(event->type())) ||
-         QObject::eventFilter(watched, event);
+  if (!running_ || conversing_ || !IsInput(event->type())) {
+    return QObject::eventFilter(watched, event);
+  }
+  if (event->type() == QEvent::KeyPress) {
+    stop_requested_ = stop_requested_ || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+  }
+  return true;
 }
 
 }  // namespace velmar

@@ -11,7 +11,7 @@ namespace velmar {
 
 /// The one place that runs the events of the forms. One event runs at a time: while it does, what a
 /// person presses or types is dropped, although the windows go on to be drawn. Only a dialog that
-/// the event itself opens gets input.
+/// the event itself opens gets input. Of what is dropped, Esc is kept in mind for a run that asks.
 ///
 /// No exception leaves it. ProgramEnd ends the application with exit code 0, any other exception
 /// with 3, after on_failure has told it.
@@ -31,6 +31,9 @@ class EventRunner : public QObject {
   /// For long work in an event, which may call it for each of its units: now and then draws the
   /// windows again, with the cursor that asks for patience.
   void Breathe();
+
+  /// Whether Esc was pressed, outside a dialog, since the event began or this was asked last.
+  bool TakeStopRequest();
 
   /// Shows a dialog of the running event and gives its result.
   int Converse(QDialog& dialog);
@@ -53,6 +56,7 @@ class EventRunner : public QObject {
   bool conversing_ = false;
   bool busy_ = false;
   bool ended_ = false;
+  bool stop_requested_ = false;
   QElapsedTimer since_event_;
   QElapsedTimer since_breath_;
 };

@@ -67,6 +67,10 @@ void QtManager::Beep(int times) {
   }
 }
 
+bool QtManager::StopWanted() {
+  return runner_.TakeStopRequest();
+}
+
 void QtManager::Progress(std::size_t, std::size_t) {
   runner_.Breathe();
 }

@@ -17,6 +17,7 @@ class QtManager : public Manager {
   std::optional<std::string> Ask(const InputBox& box) override;
   std::optional<std::string> PickFile(const FileDialog& dialog) override;
   void Beep(int times) override;
+  bool StopWanted() override;
   void Progress(std::size_t done, std::size_t total) override;
 
  private:

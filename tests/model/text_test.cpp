@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/classification_row.h"
+#include "model/columns.h"
 #include "platform/ansi.h"
 #include "platform/file_system.h"
 

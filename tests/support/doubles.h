@@ -40,6 +40,7 @@ class ScriptedManager : public Manager {
     return Take(picks, std::optional<std::string>(), dialog.filter);
   }
   void Beep(int times) override { beeps += times; }
+  bool StopWanted() override { return std::exchange(stop_wanted, false); }
   void Progress(std::size_t done, std::size_t total) override {
     EXPECT_LE(done, total);
     progress.emplace_back(done, total);
@@ -62,6 +63,7 @@ class ScriptedManager : public Manager {
   std::vector<InputBox> asked;
   std::vector<std::pair<std::size_t, std::size_t>> progress;
   int beeps = 0;
+  bool stop_wanted = false;
 
  private:
   template <typename Queue, typename Value>
@@ -152,6 +154,10 @@ class FailingFileSystem : public FileSystem {
   int changes = 0;
 
   bool FolderExists(const std::string& path) override { return real_.FolderExists(path); }
+  std::optional<FileStamp> StampOf(const std::string& path) override {
+    Look(path);
+    return real_.StampOf(path);
+  }
   std::string ReadAll(const std::string& path) override {
     Look(path);
     return real_.ReadAll(path);

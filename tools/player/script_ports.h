@@ -58,6 +58,8 @@ class ScriptManager : public Manager {
   std::optional<std::string> Ask(const InputBox& box) override;
   std::optional<std::string> PickFile(const FileDialog& dialog) override;
   void Beep(int times) override;
+  /// A script has no one who could press a key while the program is at work.
+  bool StopWanted() override { return false; }
   void Progress(std::size_t done, std::size_t total) override;
 
  private:
