@@ -2,6 +2,7 @@
 
 #include "intake/leaving.h"
 #include "intake/recalculation.h"
+#include "intake/renaming.h"
 #include "session/check_form.h"
 #include "session/config_dialog.h"
 #include "session/contest_session.h"
@@ -22,12 +23,15 @@ struct Program::Modules {
         config(session, ports.files, ports.manager, trap, screen, main, check),
         month_dialog(session, ports.files, ports.manager, trap, ports.clock, screen, main, config),
         recalculation(session, ports.files, ports.manager, screen, main),
+        renaming(session, ports.files, ports.manager, screen, main),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
-             {.open_recalculation = [this] { recalculation.Open(); }}),
+             {.open_recalculation = [this] { recalculation.Open(); },
+              .open_renaming = [this] { renaming.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
-    for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
-                                                   &recalculation.form(), &check, &info}) {
+    for (Form* form :
+         std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
+                                      &recalculation.form(), &renaming.form(), &check, &info}) {
       screen.Add(*form);
     }
   }
@@ -42,6 +46,7 @@ struct Program::Modules {
   ConfigDialog config;
   MonthDialog month_dialog;
   Recalculation recalculation;
+  Renaming renaming;
   Leaving leaving;
   MainMenu menu;
   StartUp start_up;
@@ -74,6 +79,10 @@ ConfigDialog& Program::config_dialog() {
 
 Recalculation& Program::recalculation() {
   return modules_->recalculation;
+}
+
+Renaming& Program::renaming() {
+  return modules_->renaming;
 }
 
 }  // namespace velmar

@@ -12,6 +12,7 @@ class ConfigDialog;
 class MainForm;
 class MonthDialog;
 class Recalculation;
+class Renaming;
 
 /// The whole program without a front end: makes the modules, hands them their ports, and joins the
 /// menu to the steps. A front end shows the forms of the screen and calls their events. Any event
@@ -34,6 +35,7 @@ class Program {
   MonthDialog& month_dialog();
   ConfigDialog& config_dialog();
   Recalculation& recalculation();
+  Renaming& renaming();
 
  private:
   struct Modules;

@@ -11,6 +11,8 @@ MainForm::MainForm() : Form("VLM2M_01_input", "    V A R T O  Velmar VHF - by Iz
   Aggiorna.visible = false;
   info_turbo.visible = false;
   Inserimento_OK.visible = false;
+  Bar1.visible = false;
+  Label_sezione.visible = false;
   Text3.value = "Log da inserire";
 }
 
@@ -18,6 +20,38 @@ TextField& MainForm::AddPanel(const std::string& name, const std::string& captio
   TextField& field = AddText(name, caption);
   panel_.push_back(&field);
   return field;
+}
+
+Combo& MainForm::AddPanelCombo(const std::string& name, std::vector<std::string> rows) {
+  Combo& combo = AddCombo(name, std::move(rows));
+  panel_.push_back(&combo);
+  return combo;
+}
+
+void MainForm::ShowInsertStep(bool seen) {
+  for (Control* control : std::initializer_list<Control*>{&caricaedi, &Ins_auto, &Check_AUT_entry,
+                                                          &turbo, &Text3, &num_file2, &Dir1}) {
+    control->visible = seen;
+  }
+  SetPanel(seen);
+}
+
+void MainForm::ClearPanel() {
+  for (Control* control : panel_) {
+    control->value.clear();
+    control->selection = -1;
+    control->checked = false;
+  }
+  differenza.caption = "Differenza";
+  nome_sez.caption.clear();
+  cod_sez.caption.clear();
+  ClearColours();
+}
+
+void MainForm::ClearColours() {
+  for (Control* control : panel_) {
+    control->colour.reset();
+  }
 }
 
 void MainForm::SetPanel(bool seen) {
@@ -28,6 +62,7 @@ void MainForm::SetPanel(bool seen) {
 
 void MainForm::ListFiles(FileSystem& files, const std::string& folder) {
   File1.items.Assign(files.List(folder, "*.*"));
+  Dir1.value = folder;
   num_file2.caption = std::to_string(File1.items.rows().size());
 }
 

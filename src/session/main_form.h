@@ -59,8 +59,18 @@ class MainForm : public Form {
                                "fermare."_a);
   Label& Inserimento_OK = AddLabel("Inserimento_OK", "Log inserito");
   TextField& Text3 = AddText("Text3");
+  TextField& Dir1 = AddText("Dir1", "Cartella");  ///< whose files are listed
   Label& num_file2 = AddLabel("num_file2");
   FileList& File1 = AddFileList("File1");
+
+  ProgressBar& Bar1 = AddProgress("Bar1");
+  Label& Nomedelfile = AddLabel("Nomedelfile");  ///< path of the log that is read
+  Label& ultimo_call = AddLabel("ultimo_call");  ///< its name
+  Label& Lbl_cat = AddLabel("Lbl_cat");          ///< its category
+  Label& perc_mem = AddLabel("perc_mem");        ///< lines of the library
+  Label& Label_sezione = AddLabel("Label_sezione", "Selezionare una sezione");
+  Label& nome_sez = AddLabel("nome_sez");
+  Label& cod_sez = AddLabel("cod_sez");
 
   // The header of the log on screen.
   TextField& NomeContest = AddPanel("NomeContest", "Contest");
@@ -68,19 +78,33 @@ class MainForm : public Form {
   TextField& datafine = AddPanel("datafine", "Data fine");
   TextField& Callusato = AddPanel("Callusato", "Call");
   TextField& locusato = AddPanel("locusato", "Locatore");
+  TextField& codice = AddPanel("codice", "Codice scambiato");
+  TextField& qth = AddPanel("qth", "QTH");
   TextField& categoria = AddPanel("categoria", "Categoria");
   TextField& frequenza = AddPanel("frequenza", "Frequenza");
+  Combo& newcate = AddPanelCombo("newcate", {"2IT", "3IT", "UNICA"});
   TextField& club = AddPanel("club", "Sezione");
   TextField& operatore = AddPanel("operatore", "Operatore");
   TextField& callresp = AddPanel("callresp", "Call responsabile");
+  TextField& indirizzo = AddPanel("indirizzo", "Indirizzo");
+  TextField& citta = AddPanel("citta", "Città"_a);
+  TextField& telefono = AddPanel("telefono", "Telefono / mail");
+  TextField& altri_op = AddPanel("altri_op", "Altri operatori");
   TextField& trasmettitore = AddPanel("trasmettitore", "Trasmettitore");
   TextField& potenza = AddPanel("potenza", "Potenza");
+  TextField& ricevitore = AddPanel("ricevitore", "Ricevitore");
   TextField& antenna = AddPanel("antenna", "Antenna");
   TextField& altezza = AddPanel("altezza", "Altezza s.l.m.");
-  TextField& codxc = AddPanel("codxc", "DX");
-  TextField& QRB = AddPanel("QRB", "Punti dichiarati");
   TextField& qsovalidi = AddPanel("qsovalidi", "Qso validi");
-  TextField& doppi = AddPanel("doppi", "Doppi / error");
+  TextField& punti = AddPanel("punti", "Punti dichiarati");
+  TextField& squares = AddPanel("squares", "Squares");
+  TextField& scambi = AddPanel("scambi", "Scambi");
+  TextField& dxcc = AddPanel("dxcc", "DXCC");
+  TextField& QRB = AddPanel("QRB", "Punteggio totale");
+  TextField& codxc = AddPanel("codxc", "DX");
+  TextField& Rem1 = AddPanel("Rem1", "Note");
+  TextField& doppi = AddPanel("doppi", "Qso doppi");
+  TextField& qsoerror = AddPanel("qsoerror", "Qso error");
   TextField& sommaqrb = AddPanel("sommaqrb", "Somma QRB");
   TextField& percentuale = AddPanel("percentuale", "Percentuale");
   TextField& differenza = AddPanel("differenza", "Differenza");
@@ -97,11 +121,20 @@ class MainForm : public Form {
   void ShowHeaderPanel() { SetPanel(true); }
   void HideHeaderPanel() { SetPanel(false); }
 
+  /// Shows or hides the third step: its commands and modes, and the header of a log. The list of
+  /// logs is shown by its own check box.
+  void ShowInsertStep(bool seen);
+
+  /// Empties the header of the log, takes its colours away and clears the operator mark's buttons.
+  void ClearPanel();
+  void ClearColours();
+
   /// Points the file list at a folder and puts the number of its files into `num_file2`.
   void ListFiles(FileSystem& files, const std::string& folder);
 
  private:
   TextField& AddPanel(const std::string& name, const std::string& caption);
+  Combo& AddPanelCombo(const std::string& name, std::vector<std::string> rows);
   void SetPanel(bool seen);
 };
 

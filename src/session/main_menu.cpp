@@ -61,10 +61,11 @@ void MainMenu::restore_1KM_Click() {
 }
 
 void MainMenu::Rinomina_ita_Click() {
+  screen_.Hide(form_);
+  steps_.open_renaming();
   bool in_the_way = false;
   trap_.Statement(84, [&] { in_the_way = HoldsFiles(files_, session_.workspace.to_insert()); });
   if (in_the_way) {
-    screen_.Hide(form_);
     manager_.Show(
         {.lines = {" La cartella ' 03 Log da inserire', NON è vuota. "_a,
                    " Esci ed elimina i file, altrimenti si mischiano i file nuovi con i vecchi."}});
@@ -74,12 +75,7 @@ void MainMenu::Rinomina_ita_Click() {
 }
 
 void MainMenu::Inserire_log_Click() {
-  form_.ShowHeaderPanel();
-  for (Control* control :
-       std::initializer_list<Control*>{&form_.caricaedi, &form_.Ins_auto, &form_.Check_AUT_entry,
-                                       &form_.turbo, &form_.Text3, &form_.num_file2}) {
-    control->visible = true;
-  }
+  form_.ShowInsertStep(true);
 }
 
 void MainMenu::ControllaCla() {

@@ -14,7 +14,8 @@ namespace velmar {
 
 /// The steps that the menu opens. The program joins them to the modules.
 struct MenuSteps {
-  std::function<void()> open_recalculation;
+  std::function<void()> open_recalculation{};
+  std::function<void()> open_renaming{};
 };
 
 /// The menu and the small controls of the main screen.
@@ -24,8 +25,8 @@ class MainMenu {
            Screen& screen, MainForm& form, MonthAssignment& months, MenuSteps steps);
 
   void restore_1KM_Click();
-  /// Logs that wait to be inserted are not to be mixed with newly renamed ones: they end the
-  /// program.
+  /// Opens the second step. Logs that wait to be inserted are not to be mixed with newly renamed
+  /// ones: they end the program.
   void Rinomina_ita_Click();
   void Inserire_log_Click();
   void CLA_mese_excel_Click();

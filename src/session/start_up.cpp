@@ -223,12 +223,14 @@ void StartUp::ReadMonths() {
 
 void StartUp::ReadStore() {
   trap_.Statement(17, [&] {
-    if (const auto text = ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kPartecipanti))) {
+    if (const auto text =
+            ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kPartecipanti))) {
       Fill(session_.participants, *text);
     }
   });
   trap_.Statement(17, [&] {
-    if (const auto text = ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kLibreriaTotale))) {
+    if (const auto text =
+            ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kLibreriaTotale))) {
       Fill(session_.total_library, *text);
     }
   });
@@ -318,18 +320,13 @@ void StartUp::TestSteps() {
 }
 
 void StartUp::ShowInsertStep(bool pending) {
-  for (Control* control : std::initializer_list<Control*>{
-           &main_.Ins_auto, &main_.Check_AUT_entry, &main_.turbo, &main_.File1, &main_.caricaedi,
-           &main_.Text3, &main_.num_file2}) {
-    control->visible = pending;
-  }
+  main_.ShowInsertStep(pending);
+  main_.File1.visible = pending;
   main_.info_turbo.visible = false;
   main_.Inserimento_OK.visible = false;
   if (pending) {
     main_.turbo.checked = false;
-    main_.ShowHeaderPanel();
   } else {
-    main_.HideHeaderPanel();
     main_.Inserire_log.enabled = false;
     main_.Inserire_log.checked = true;
   }

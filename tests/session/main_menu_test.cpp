@@ -24,6 +24,12 @@ class MainMenuTest : public testing::Test {
     screen.Show(form);
   }
 
+  void NoteOpening() {
+    EXPECT_FALSE(form.visible());
+    EXPECT_TRUE(manager.boxes.empty()) << "the message comes behind the screen";
+    ++opened;
+  }
+
   TempWorkspace workspace;
   ScriptedManager manager;
   FixedClock clock;
@@ -40,11 +46,8 @@ class MainMenuTest : public testing::Test {
                 screen,
                 form,
                 months,
-                {.open_recalculation = [this] {
-                  EXPECT_FALSE(form.visible());
-                  EXPECT_TRUE(manager.boxes.empty()) << "the message comes behind the screen";
-                  ++opened;
-                }}};
+                {.open_recalculation = [this] { NoteOpening(); },
+                 .open_renaming = [this] { NoteOpening(); }}};
 };
 
 TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
@@ -62,8 +65,11 @@ TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
 TEST_F(MainMenuTest, LogsThatWaitToBeInsertedEndTheRenaming) {
   form.Rinomina_ita.Click();
   EXPECT_TRUE(manager.boxes.empty());
+  EXPECT_EQ(opened, 1);
+  screen.Show(form);
   workspace.With("03 Log da inserire/a.edi", "x");
   EXPECT_THROW(form.Rinomina_ita.Click(), ProgramEnd);
+  EXPECT_EQ(opened, 2) << "the screen opens all the same";
   EXPECT_EQ(manager.boxes.at(1), (Box{.lines = {" Programma terminato "}, .icon = Icon::kStop}));
 }
 

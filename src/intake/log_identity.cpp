@@ -1,0 +1,185 @@
+#include "intake/log_identity.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "model/edi_log.h"
+#include "model/lines.h"
+#include "model/text.h"
+#include "model/workspace.h"
+#include "platform/error.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::string_view kSeparators = "(|@_\\/-";
+constexpr std::size_t kLongestPrefix = 4;  ///< with its separator
+constexpr std::size_t kMostLines = 370'000;
+constexpr std::size_t kSectionRow = 9;
+constexpr std::size_t kBandRow = 10;
+constexpr std::string_view kNoLog = "Log non valido";
+constexpr std::string_view kNoCall = "call non valido";
+constexpr std::string_view kNameEnd = ".edi";
+
+/// What is taken out of a call, in this order.
+constexpr std::array<std::string_view, 22> kRemoved = {
+    "IV3_", "IN3_", "IS0_", "IM0_", "IX1_", "IA5_", "IT9_", "I_", "IK_", "_QRP", "_P",
+    "_M",   "_0",   "_1",   "_2",   "_3",   "_4",   "_5",   "_6", "_7",  "_8",   "_9"};
+
+/// Takes `part`, in any case of letters, out of `text`; false when it is not there.
+bool Remove(std::string& text, std::string_view part) {
+  const std::size_t at = Upper(text).find(part);
+  if (at == std::string::npos) {
+    return false;
+  }
+  text.erase(at, part.size());
+  return true;
+}
+
+std::string SeparatorsUnified(std::string_view text) {
+  std::string unified(text);
+  std::ranges::replace_if(
+      unified,
+      [](char c) {
+        return Holds(kSeparators, {&c, 1});
+      },
+      '_');
+  return unified;
+}
+
+/// A row of the header by its number, from 1; empty where the header is shorter.
+std::string_view Row(const std::vector<std::string_view>& header, std::size_t number) {
+  return number <= header.size() ? header[number - 1] : std::string_view();
+}
+
+bool HasKey(std::string_view row, std::string_view key) {
+  return ParseHeaderRow(row).key == key;
+}
+
+std::vector<std::string_view> HeaderOf(std::string_view text) {
+  std::vector<std::string_view> header;
+  LineReader reader(text);
+  for (std::string_view line; reader.Next(line) && !line.empty();) {
+    if (header.size() == kMostLines) {
+      throw RunTimeError(ErrorNumber::kSubscript, "a log of too many lines");
+    }
+    header.push_back(line);
+  }
+  return header;
+}
+
+std::string_view DeclaredCall(const std::vector<std::string_view>& header) {
+  const auto row = std::ranges::find_if(
+      header, [](std::string_view line) { return Holds(Upper(line), "PCALL"); });
+  return row == header.end() ? std::string_view() : Mid(*row, edi::kValueColumn);
+}
+
+/// The band that counts: 145 and 146 are the band of 144 MHz.
+double BandOf(std::string_view declared) {
+  const double band = Val(declared);
+  return band == 145 || band == 146 ? 144 : band;
+}
+
+void NoteMissing(LogIdentity& log, std::string_view note, std::size_t index) {
+  log.text += Join(note, index);
+  log.valid = false;
+}
+
+void TakeSection(LogIdentity& log, const std::vector<std::string_view>& header, std::size_t index) {
+  log.lacks_section = !HasKey(Row(header, kSectionRow), "PSECT");
+  if (log.lacks_section) {
+    NoteMissing(log, " manca PSect - ", index);
+  } else {
+    log.section = Mid(Row(header, kSectionRow), edi::kValueColumn);
+  }
+}
+
+void TakeBand(LogIdentity& log, const std::vector<std::string_view>& header, std::size_t index) {
+  log.lacks_band = !HasKey(Row(header, kBandRow), "PBAND");
+  if (!log.lacks_band) {
+    log.band = Mid(Row(header, kBandRow), edi::kValueColumn);
+    if (RTrim(log.section) == kCategory && BandOf(log.band) != 144) {
+      log.text = Join(kSetAsideMark, log.text, " Problem  Cat=", log.section, " Freq=", log.band,
+                      " ", index);
+      log.valid = false;
+    }
+    return;
+  }
+  NoteMissing(log, " manca PBand - ", index);
+  if (std::ranges::none_of(header, [](std::string_view row) { return HasKey(row, "PBAND"); })) {
+    log.text += " no frequenza";
+  }
+}
+
+void Name(LogIdentity& log) {
+  log.text = RTrim(SeparatorsUnified(log.text));
+  log.text = log.text.substr(0, log.text.find('\t'));
+  log.note = log.valid ? "" : log.text;
+  log.new_name = log.valid ? Join(kCategory, "_", log.text, kNameEnd) : SetAsideName(log.text);
+}
+
+}  // namespace
+
+CleanedCall CleanCall(std::string_view declared) {
+  std::string call = WithoutBlanks(declared);
+  if (call.size() > kCallWidth) {
+    return {std::string(kNoLog)};
+  }
+  call = SeparatorsUnified(call);
+  const auto separators = std::ranges::count(call, '_');
+  if (separators > 1) {
+    return {std::string(kNoCall)};
+  }
+  int removals = 0;
+  if (separators == 1) {
+    for (const std::string_view part : kRemoved) {
+      removals += Remove(call, part) ? 1 : 0;
+    }
+  }
+  Remove(call, "2IT_");
+  const std::size_t position = call.find('_') + 1;  // counted from 1; 0 for none
+  if (position > 0) {
+    call = position <= kLongestPrefix ? Mid(call, position + 1) : Left(call, position - 1);
+  }
+  return call.empty() ? CleanedCall{std::string(kNoCall)} : CleanedCall{call, true, removals};
+}
+
+LogIdentity IdentifyLog(std::string_view text, std::size_t index) {
+  const auto header = HeaderOf(text);
+  LogIdentity log;
+  const std::string_view first = Row(header, 1);
+  if (Holds(first, "<br") || first.size() != edi::kFirstRow.size()) {
+    log.text = Join(kNoLog, Str(static_cast<long long>(index)));
+  } else {
+    log.call = CleanCall(DeclaredCall(header));
+    log.text = log.call.text;
+    log.valid = log.call.valid;
+    TakeSection(log, header, index);
+    TakeBand(log, header, index);
+  }
+  Name(log);
+  return log;
+}
+
+std::string SetAsideName(std::string_view text) {
+  return Join(kSetAsideMark, "_", text, kNameEnd);
+}
+
+std::string WithSection(std::string_view log, std::string_view section) {
+  std::string changed;
+  changed.reserve(log.size());
+  LineReader reader(log);
+  for (std::string_view line; reader.Next(line);) {
+    if (Holds(line, "=") && Holds(Upper(line), "PSECT=")) {
+      changed += Join("PSect=", Upper(section));
+    } else {
+      changed += line;
+    }
+    changed += kLineEnd;
+  }
+  return changed;
+}
+
+}  // namespace velmar

@@ -1,0 +1,260 @@
+#include "intake/renaming.h"
+
+#include <algorithm>
+
+#include "model/edi_log.h"
+#include "model/lines.h"
+#include "model/text.h"
+#include "model/workspace.h"
+#include "platform/error.h"
+#include "session/version.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::string_view kLogs = "*.edi";
+constexpr std::size_t kMostLogs = 100'000;
+constexpr std::size_t kLongestName = 50;
+constexpr std::string_view kFirstRowStart = edi::kFirstRow.substr(0, 9);
+
+/// The log with CR LF behind each of its lines.
+std::string WithUsualLineEnds(std::string_view text) {
+  std::string usual;
+  usual.reserve(text.size());
+  LineReader reader(text);
+  for (std::string_view line; reader.Next(line);) {
+    usual += line;
+    usual += kLineEnd;
+  }
+  return usual;
+}
+
+/// A name in which what may make trouble in a file name is a blank, cut to what a name may have.
+std::string FitName(std::string name) {
+  std::ranges::replace_if(
+      name, [](char c) { return static_cast<unsigned char>(c) < ','; }, ' ');
+  name.resize(std::min(name.size(), kLongestName));
+  return name;
+}
+
+}  // namespace
+
+RenamingForm::RenamingForm()
+    : Form("VLM2M_05_rin_ITA",
+           Join("V A R T O  VLM  by iz9qqq   ", kVersionLong, "   Rinomina i log   ")) {}
+
+Renaming::Renaming(ContestSession& session, FileSystem& files, Manager& manager, Screen& screen,
+                   MainForm& main)
+    : session_(session), files_(files), manager_(manager), screen_(screen), main_(main) {
+  form_.rinomina.on_click = [this] { rinomina_Click(); };
+  form_.torna_menu.on_click = [this] { torna_menu_Click(); };
+  form_.esci.on_click = [this] { torna_menu_Click(); };
+  form_.List2.on_click = [this] { List2_Click(); };
+}
+
+void Renaming::Trap(const std::function<void()>& procedure) {
+  try {
+    procedure();
+  } catch (const RunTimeError& error) {
+    manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
+                                  " nella linea : ", step_,
+                                  " Modulo rinomina log   Contatta l' autore del software_",
+                                  VersionDotted())}});
+  }
+}
+
+std::string Renaming::Source(const std::string& name) const {
+  return session_.workspace.recalculated() + "/" + name;
+}
+
+void Renaming::Open() {
+  run_made_ = false;
+  counters_ = {};
+  form_.List1.items.Assign({});
+  form_.List2.items.Assign({});
+  form_.Text1.value.clear();
+  form_.Text2.value.clear();
+  ShowCounters();
+  step_ = 1;
+  Trap([&] { RefreshLists(); });
+  form_.rinomina.enabled = !form_.source.items.rows().empty();
+  screen_.Show(form_);
+}
+
+void Renaming::RefreshLists() {
+  form_.source.items.Assign(files_.List(session_.workspace.recalculated(), kLogs));
+  form_.destination.items.Assign(files_.List(session_.workspace.to_insert(), "*.*"));
+}
+
+void Renaming::ShowCounters() {
+  form_.file_letti.caption = std::to_string(counters_.read);
+  form_.file_doppi.caption = std::to_string(counters_.repeated);
+  form_.call_cambiati.caption = std::to_string(counters_.changed_calls);
+  form_.file_nonvalidi.caption = std::to_string(counters_.not_valid);
+  form_.file_rinominati.caption = std::to_string(counters_.renamed);
+}
+
+void Renaming::rinomina_Click() {
+  Trap([&] {
+    step_ = 2;
+    counters_ = {};
+    names_.clear();
+    copied_.clear();
+    form_.List1.items.Assign({});
+    form_.List2.items.Assign({});
+    TidyLogs();
+    step_ = 3;
+    RenameLogs();
+    step_ = 4;
+    RefreshLists();
+    form_.Text1.value = form_.file_rinominati.caption;
+    form_.rinomina.enabled = false;
+    run_made_ = true;
+  });
+}
+
+void Renaming::TidyLogs() {
+  RefreshLists();
+  const auto logs = form_.source.items.rows();
+  form_.progress.maximum = 2 * logs.size();
+  for (std::size_t i = 0; i < logs.size(); ++i) {
+    Tidy(logs[i]);
+    Advance(i + 1);
+  }
+}
+
+void Renaming::Tidy(const std::string& name) {
+  const std::string text = files_.ReadAll(Source(name));
+  const std::string usual = WithUsualLineEnds(text);
+  if (usual != text) {
+    files_.WriteAll(Source(name), usual);
+  }
+  if (usual.starts_with(kFirstRowStart)) {
+    return;
+  }
+  const std::string folder = session_.workspace.recalculated();
+  const std::string target = FreeName(files_, Source(name), folder,
+                                      name + " - prima riga non corretta o riga vuota", ".txt");
+  files_.Move(Source(name), folder + "/" + target);
+  ++counters_.not_valid;
+  Tell(target);
+}
+
+void Renaming::RenameLogs() {
+  RefreshLists();
+  const auto logs = form_.source.items.rows();
+  if (logs.size() > kMostLogs) {
+    throw RunTimeError(ErrorNumber::kSubscript, "too many logs");
+  }
+  for (std::size_t i = 0; i < logs.size(); ++i) {
+    Rename(logs[i], i);
+    Advance(form_.progress.maximum / 2 + i + 1);
+  }
+  Advance(form_.progress.maximum);
+}
+
+void Renaming::Rename(const std::string& name, std::size_t index) {
+  const std::string text = files_.ReadAll(Source(name));
+  ++counters_.read;
+  const LogIdentity log = IdentifyLog(text, index);
+  counters_.changed_calls += static_cast<std::size_t>(log.call.removals);
+  TellMissingRows(name, log);
+  form_.List1.items.Add(
+      Join(name, "\t", log.call.text, "\t", log.section, "\t", log.band, "\t", log.new_name));
+  if (!names_.insert(log.new_name).second) {
+    ++counters_.repeated;
+    SetAside(name,
+             SetAsideName(Join(log.text, " ", Str(static_cast<long long>(counters_.repeated)))));
+  } else if (Holds(log.new_name, kSetAsideMark)) {
+    SetAside(name, log.new_name);
+  } else {
+    Insert(name, log, text);
+  }
+  copied_.push_back(name);
+  ShowCounters();
+}
+
+void Renaming::TellMissingRows(const std::string& name, const LogIdentity& log) {
+  const auto tell = [&](bool missing, std::string_view message) {
+    if (missing) {
+      manager_.Show({.lines = {Join(message, name)}});
+      form_.List1.items.Add(name);
+    }
+  };
+  tell(log.lacks_section, " Manca 'PSect' - Log errato  ");
+  tell(log.lacks_band, " Manca 'PBand' - Log errato  ");
+}
+
+void Renaming::SetAside(const std::string& name, const std::string& new_name) {
+  const std::string folder = session_.workspace.to_check_again();
+  const std::size_t stem = new_name.rfind('.');
+  const std::string target =
+      FreeName(files_, Source(name), folder, new_name.substr(0, stem), new_name.substr(stem));
+  files_.Copy(Source(name), folder + "/" + target);
+  ++counters_.not_valid;
+  Tell(Join(name, "\t", target));
+}
+
+void Renaming::Insert(const std::string& name, const LogIdentity& log, std::string_view text) {
+  const std::string prefix = session_.workspace.to_insert() + "/";
+  std::string new_name = FitName(log.new_name);
+  if (files_.StampOf(prefix + new_name)) {
+    ++counters_.repeated;
+    const std::string target =
+        Join(kSetAsideMark, name, " Call doppio", Str(static_cast<long long>(counters_.repeated)));
+    new_name = FreeName(files_, Source(name), session_.workspace.to_insert(), target, "");
+    Tell(Join(name, "\t", new_name));
+  } else {
+    ++counters_.renamed;
+  }
+  files_.WriteAll(prefix + new_name, WithSection(text, log.section));
+}
+
+void Renaming::Tell(const std::string& row) {
+  form_.List1.items.Add(row);
+  form_.List2.items.Add(row);
+}
+
+void Renaming::List2_Click() {
+  const auto& rows = form_.List2.items.rows();
+  const auto row = static_cast<std::size_t>(form_.List2.selection);
+  form_.Text2.value = row < rows.size() ? rows[row] : "";
+}
+
+void Renaming::torna_menu_Click() {
+  step_ = 5;
+  if (run_made_) {
+    Trap([&] { RemoveRenamed(); });
+  }
+  screen_.Hide(form_);
+  Trap([&] { UpdateMenu(); });
+  screen_.Show(main_);
+}
+
+void Renaming::RemoveRenamed() {
+  // Only what this run copied: a log that came in behind its back is not lost.
+  for (const std::string& name : copied_) {
+    RemoveIfThere(files_, Source(name));
+  }
+}
+
+void Renaming::UpdateMenu() {
+  main_.ListFiles(files_, session_.workspace.to_insert());
+  if (!run_made_) {
+    return;
+  }
+  main_.Rinomina_ita.checked = true;
+  main_.Rinomina_ita.enabled = false;
+  main_.Inserire_log.enabled = true;
+  main_.Inserire_log.checked = false;
+  main_.ShowInsertStep(true);
+  main_.File1.visible = true;
+}
+
+void Renaming::Advance(std::size_t done) {
+  form_.progress.value = std::to_string(done);
+  manager_.Progress(done, form_.progress.maximum);
+}
+
+}  // namespace velmar
