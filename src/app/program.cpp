@@ -1,8 +1,10 @@
 #include "app/program.h"
 
+#include "intake/insertion.h"
 #include "intake/leaving.h"
 #include "intake/recalculation.h"
 #include "intake/renaming.h"
+#include "model/contest_store.h"
 #include "session/check_form.h"
 #include "session/config_dialog.h"
 #include "session/contest_session.h"
@@ -18,12 +20,14 @@ namespace velmar {
 struct Program::Modules {
   Modules(const std::string& base_dir, const Ports& ports)
       : session(base_dir),
+        store(ports.files, session.workspace),
         trap(ports.manager),
         months(session, ports.files, ports.manager, trap, ports.clock),
         config(session, ports.files, ports.manager, trap, screen, main, check),
         month_dialog(session, ports.files, ports.manager, trap, ports.clock, screen, main, config),
         recalculation(session, ports.files, ports.manager, screen, main),
         renaming(session, ports.files, ports.manager, screen, main),
+        insertion(session, ports.files, ports.manager, store, months, main),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); },
@@ -41,12 +45,14 @@ struct Program::Modules {
   MainForm main;
   CheckForm check;
   InfoForm info;
+  ContestStore store;
   MenuTrap trap;
   MonthAssignment months;
   ConfigDialog config;
   MonthDialog month_dialog;
   Recalculation recalculation;
   Renaming renaming;
+  Insertion insertion;
   Leaving leaving;
   MainMenu menu;
   StartUp start_up;

@@ -33,6 +33,7 @@ namespace colour {
 inline constexpr int kRed = 255;
 inline constexpr int kGreen = 65280;
 inline constexpr int kYellow = 65535;
+inline constexpr int kLightRed = 0x8080FF;
 inline constexpr int kWhite = 0xFFFFFF;
 }  // namespace colour
 

@@ -49,8 +49,9 @@ struct ContestSession {
   bool archive_missing = false;  ///< the call book was not found
 
   // What the steps tell one another.
-  bool checks_unfinished = false;      ///< rows of the classification were never checked
-  bool recalc_dest_not_empty = false;  ///< the recalculation found logs where it writes
+  bool log_inserted_since_load = false;  ///< the classification in memory lacks a log
+  bool checks_unfinished = false;        ///< rows of the classification were never checked
+  bool recalc_dest_not_empty = false;    ///< the recalculation found logs where it writes
   OperatorMark operator_mark = OperatorMark::kNone;  ///< of the log on screen
 
   Settings settings;

@@ -60,10 +60,20 @@ void MainForm::SetPanel(bool seen) {
   }
 }
 
+void MainForm::StopTurbo() {
+  turbo.checked = false;
+  info_turbo.visible = false;
+}
+
 void MainForm::ListFiles(FileSystem& files, const std::string& folder) {
-  File1.items.Assign(files.List(folder, "*.*"));
+  ShowFiles(folder, files.List(folder, "*.*"));
+}
+
+void MainForm::ShowFiles(const std::string& folder, std::vector<std::string> names) {
   Dir1.value = folder;
-  num_file2.caption = std::to_string(File1.items.rows().size());
+  num_file2.caption = std::to_string(names.size());
+  File1.selection = names.empty() ? -1 : 0;
+  File1.items.Assign(std::move(names));
 }
 
 }  // namespace velmar

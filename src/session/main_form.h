@@ -129,8 +129,13 @@ class MainForm : public Form {
   void ClearPanel();
   void ClearColours();
 
-  /// Points the file list at a folder and puts the number of its files into `num_file2`.
+  /// Takes the turbo mode back.
+  void StopTurbo();
+
+  /// Points the file list at a folder, puts the number of its files into `num_file2` and selects
+  /// the first. ShowFiles is for one who has read the folder already.
   void ListFiles(FileSystem& files, const std::string& folder);
+  void ShowFiles(const std::string& folder, std::vector<std::string> names);
 
  private:
   TextField& AddPanel(const std::string& name, const std::string& caption);

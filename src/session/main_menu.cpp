@@ -27,6 +27,7 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   OnClick(form.Check_AUT_entry, &MainMenu::Check_AUT_entry_Click);
   OnClick(form.turbo, &MainMenu::turbo_Click);
   OnClick(form.Ins_auto, &MainMenu::Ins_auto_Click);
+  OnClick(form.Testlog, &MainMenu::Testlog_Click);
   OnClick(form.Rookie, &MainMenu::Rookie_Click);
   OnClick(form.Young, &MainMenu::Young_Click);
   OnClick(form.Command1, &MainMenu::Command1_Click);
@@ -34,6 +35,7 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   for (Button* button : {&form.caricaedi, &form.Marcafile}) {
     button->on_key = [this, button](const std::string& key) { StartByKey(*button, key); };
   }
+  form.turbo.on_key = [this](const std::string& key) { StopByKey(key); };
 }
 
 void MainMenu::OnClick(Control& control, void (MainMenu::*event)()) {
@@ -124,6 +126,7 @@ void MainMenu::Check_AUT_entry_Click() {
   if (!form_.File1.visible) {
     form_.File1.visible = true;
     form_.Text3.visible = true;
+    form_.Dir1.visible = true;
     form_.num_file2.visible = true;
     trap_.Statement(83, [&] { form_.ListFiles(files_, session_.workspace.to_insert()); });
   } else if (!form_.Check_AUT_entry.checked) {
@@ -134,14 +137,25 @@ void MainMenu::Check_AUT_entry_Click() {
 void MainMenu::turbo_Click() {
   if (form_.turbo.checked) {
     form_.Ins_auto.checked = true;
+    form_.info_turbo.visible = true;
+  } else {
+    form_.StopTurbo();
   }
-  form_.info_turbo.visible = form_.turbo.checked;
 }
 
 void MainMenu::Ins_auto_Click() {
   if (!form_.Ins_auto.checked) {
-    form_.turbo.checked = false;
-    turbo_Click();
+    form_.StopTurbo();
+  }
+}
+
+void MainMenu::Testlog_Click() {
+  form_.Testlog.checked = !form_.Testlog.checked;
+}
+
+void MainMenu::StopByKey(const std::string& key) {
+  if (key == "Esc") {
+    form_.StopTurbo();
   }
 }
 

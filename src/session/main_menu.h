@@ -35,12 +35,14 @@ class MainMenu {
   void Check_AUT_entry_Click();
   void turbo_Click();
   void Ins_auto_Click();
+  void Testlog_Click();
   void Rookie_Click();
   void Young_Click();
   void Command1_Click();
 
  private:
   void OnClick(Control& control, void (MainMenu::*event)());
+  void StopByKey(const std::string& key);
   void StartByKey(Button& button, const std::string& key);
   void ControllaCla();
   void MarkOperator(OperatorMark mark);

@@ -325,7 +325,7 @@ void StartUp::ShowInsertStep(bool pending) {
   main_.info_turbo.visible = false;
   main_.Inserimento_OK.visible = false;
   if (pending) {
-    main_.turbo.checked = false;
+    main_.StopTurbo();
   } else {
     main_.Inserire_log.enabled = false;
     main_.Inserire_log.checked = true;

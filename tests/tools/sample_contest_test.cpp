@@ -137,7 +137,7 @@ TEST(SampleContest, SameOptionsGiveSameBytes) {
   const SampleOptions options = {.seed = 7, .stations = 22, .qsos = 9};
   const std::uint64_t first = Fingerprint(MakeSampleContest(options));
   EXPECT_EQ(first, Fingerprint(MakeSampleContest(options)));
-  EXPECT_EQ(first, 2316396207462571446U) << "the bytes differ from those of other machines";
+  EXPECT_EQ(first, 10049757003225505882U) << "the bytes differ from those of other machines";
   EXPECT_NE(first, Fingerprint(MakeSampleContest({.seed = 8, .stations = 22, .qsos = 9})));
 }
 
@@ -146,7 +146,7 @@ TEST(SampleContest, RefusesOptionsThatCannotBeMet) {
     return MakeSampleContest({1, stations, qsos, date});
   };
   EXPECT_THROW(make(1, 1, "250119"), std::invalid_argument);
-  EXPECT_THROW(make(1001, 10, "250119"), std::invalid_argument);
+  EXPECT_THROW(make(2001, 10, "250119"), std::invalid_argument);
   EXPECT_THROW(make(10, 0, "250119"), std::invalid_argument);
   EXPECT_THROW(make(10, 10, "250119"), std::invalid_argument);
   EXPECT_THROW(make(900, 801, "250119"), std::invalid_argument);
@@ -258,8 +258,9 @@ TEST(SampleContest, HeaderRowsStandAtTheirNumbers) {
     }
     EXPECT_EQ(log.Header(38), "[Remarks]");
     EXPECT_TRUE(log.Header(3) == "TDate=20250119;20250119");
-    for (const auto& [row, key] : {std::pair(6, "PExch="), std::pair(9, "PSect="),
-                                   std::pair(10, "PBand="), std::pair(24, "SPowe=")}) {
+    for (const auto& [row, key] :
+         {std::pair(6, "PExch="), std::pair(9, "PSect="), std::pair(10, "PBand="),
+          std::pair(11, "PClub="), std::pair(24, "SPowe=")}) {
       EXPECT_TRUE(log.Header(static_cast<std::size_t>(row)).starts_with(key)) << call;
     }
     const std::string count = Join("[QSORecords;", log.rows.size(), "]");
@@ -267,24 +268,20 @@ TEST(SampleContest, HeaderRowsStandAtTheirNumbers) {
   }
 }
 
-TEST(SampleContest, ClaimsInTheHeaderAgreeWithTheRows) {
+TEST(SampleContest, BestDxIsTheFarthestQsoThatCounts) {
   for (const auto& [call, log] : Middle().logs) {
-    int valid = 0;
     int farthest = 0;
     for (std::size_t row = 1; row <= log.rows.size(); ++row) {
       const bool counts = !MarkedInvalid(log.uppers[row - 1]) &&
                           !Middle().Has(call, row, FaultKind::kDuplicate) &&
                           !Middle().Has(call, row, FaultKind::kSelfQso);
       EXPECT_FALSE(counts && MarkedDuplicate(log.edi.qsos[row - 1]));
-      valid += counts ? 1 : 0;
       if (counts) {
         farthest =
             std::max(farthest, QsoPoints(Middle().locators.at(call), log.Row(row).locator()));
       }
     }
-    EXPECT_EQ(log.Header(28), Join("CQSOs=", valid, ";1")) << call;
     EXPECT_TRUE(log.Header(37).ends_with(Join(";", farthest))) << call;
-    EXPECT_EQ(log.Header(29).find_first_not_of("0123456789", 6), std::string_view::npos);
   }
 }
 
@@ -298,7 +295,6 @@ TEST(SampleContest, QsoRowsFollowTheRules) {
       const QsoRecord& qso = log.Row(row);
       const std::string& text = log.uppers[row - 1];
       EXPECT_EQ(qso.date(), "250119");
-      EXPECT_TRUE(qso.time() >= "0700" && qso.time() <= "1500") << text;
       const std::ptrdiff_t semicolons =
           Middle().Has(call, row, FaultKind::kShortOfSemicolons) ? 12 : 14;
       EXPECT_EQ(std::ranges::count(text, ';'), semicolons) << text;
@@ -401,6 +397,9 @@ TEST(SampleContest, EveryKindIsPlantedFrom20LogsOn) {
   for (std::uint64_t seed = 0; seed < 40; ++seed) {
     const Contest contest({.seed = seed, .stations = 20, .qsos = 5});
     EXPECT_EQ(contest.by_row.size(), contest.made.faults.size()) << "two faults on one row";
+    for (const PlantedFault* fault : contest.Of(FaultKind::kTimeOff)) {
+      ExpectPresent(contest, *fault);
+    }
     for (const FaultKind kind : kCommonFaults) {
       EXPECT_GE(contest.Of(kind).size(), 2U) << seed << " " << FaultName(kind);
     }
@@ -469,9 +468,9 @@ TEST(SampleContest, AverageLogHasTheTargetSize) {
 
 TEST(SampleContest, LargeContestsAreMadeFast) {
   const auto start = std::chrono::steady_clock::now();
-  const SampleContest contest = MakeSampleContest({5, 250, 80});
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-  EXPECT_NEAR(static_cast<double>(contest.faults.size()), 500, 150);
+  const SampleContest contest = MakeSampleContest({5, 2000, 100});
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+  EXPECT_NEAR(static_cast<double>(contest.faults.size()), 5500, 500);
 }
 
 TEST(SampleContest, LogsStayBelow900RowsAtTheUpperEnd) {

@@ -14,37 +14,36 @@ constexpr int kTriesForMinute = 12;
 
 Entry TrueEntry(const Station& own, const Station& other, int minute) {
   Entry entry;
-  entry.minute = minute + own.clock_error;
+  entry.minute = LoggedMinute(own, minute);
   entry.call = other.call;
   entry.locator = other.locator;
   return entry;
 }
 
-// The minutes in which each station is on the air.
+// How many QSOs each station has in each minute.
 class Timetable {
  public:
-  explicit Timetable(std::size_t stations)
-      : busy_(stations, std::vector<bool>(kLastMinute - kFirstMinute + 1)) {}
+  explicit Timetable(std::size_t stations) : qsos_(stations) {}
 
-  // A minute that is free for both, or after several tries any minute.
+  // Of several minutes the one in which both have the fewest.
   int Draw(Random& random, std::size_t a, std::size_t b) {
-    int minute = 0;
-    for (int tries = 0; tries < kTriesForMinute; ++tries) {
-      minute = random.Between(kFirstMinute, kLastMinute);
-      if (!At(a, minute) && !At(b, minute)) {
-        break;
-      }
+    const auto load = [&](int minute) { return At(a, minute) + At(b, minute); };
+    int least = random.Between(kFirstMinute, kLastMinute);
+    for (int tries = 1; tries < kTriesForMinute && load(least) > 0; ++tries) {
+      const int minute = random.Between(kFirstMinute, kLastMinute);
+      least = load(minute) < load(least) ? minute : least;
     }
-    At(a, minute) = At(b, minute) = true;
-    return minute;
+    ++At(a, least);
+    ++At(b, least);
+    return least;
   }
 
  private:
-  std::vector<bool>::reference At(std::size_t station, int minute) {
-    return busy_[station][static_cast<std::size_t>(minute - kFirstMinute)];
+  int& At(std::size_t station, int minute) {
+    return qsos_[station].at(static_cast<std::size_t>(minute - kFirstMinute));
   }
 
-  std::vector<std::vector<bool>> busy_;
+  std::vector<std::array<int, kLastMinute - kFirstMinute + 1>> qsos_;
 };
 
 }  // namespace
@@ -52,6 +51,10 @@ class Timetable {
 std::string Hhmm(int minute) {
   const int number = 10000 + minute / 60 * 100 + minute % 60;
   return std::to_string(number).substr(1);
+}
+
+int LoggedMinute(const Station& station, int minute) {
+  return std::clamp(minute + station.clock_error, kFirstLogged, kLastLogged);
 }
 
 void DrawReports(Random& random, Contact& contact) {

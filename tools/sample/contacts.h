@@ -14,11 +14,13 @@ namespace velmar::sample {
 
 inline constexpr std::size_t kNobody = static_cast<std::size_t>(-1);
 
-/// The true times of the QSOs, in minutes of the day; the clocks of the logs stay in 0700 to 1500.
-inline constexpr int kFirstLogged = 7 * 60;
-inline constexpr int kLastLogged = 15 * 60;
-inline constexpr int kFirstMinute = kFirstLogged + 4;
-inline constexpr int kLastMinute = kLastLogged - 4;
+/// The hour of the contest, in minutes of the day.
+inline constexpr int kFirstMinute = 10 * 60;
+inline constexpr int kLastMinute = 11 * 60;
+
+/// The times that a log may hold, whatever its clock says: a minute late is still admitted.
+inline constexpr int kFirstLogged = kFirstMinute;
+inline constexpr int kLastLogged = kLastMinute + 1;
 
 /// Minutes of the day as HHMM.
 std::string Hhmm(int minute);
@@ -26,11 +28,18 @@ std::string Hhmm(int minute);
 /// Form of a QSO row.
 enum class RowForm { kWhole, kMarkedDuplicate, kShortOfSemicolons };
 
+/// What the header of a log claims for a row.
+enum class Claim {
+  kScored,   ///< a valid QSO with its points
+  kCounted,  ///< one of the valid QSOs, without points
+  kNothing
+};
+
 /// What one log holds of a contact.
 struct Entry {
   bool present = true;  ///< the log has the row
-  bool valid = true;    ///< its writer counts it
-  int minute = 0;       ///< of the day
+  Claim claim = Claim::kScored;
+  int minute = 0;  ///< of the day
   std::string call;
   std::string exchange;
   std::string locator;
@@ -59,6 +68,9 @@ struct Contact {
   std::size_t repeats = kNobody;        ///< the contact that this one is a duplicate of
   std::optional<ContactFault> fault = std::nullopt;
 };
+
+/// The time that a station logs for a QSO at a true time.
+int LoggedMinute(const Station& station, int minute);
 
 /// The contacts of a contest, without faults or numbers. Each log has about `qsos` of them and at
 /// least one; a station without an accepted log is worked by two accepted ones at least.

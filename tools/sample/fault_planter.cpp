@@ -18,6 +18,7 @@ constexpr std::size_t kContactsPerFault = 20;
 constexpr std::size_t kLeastOfEachKind = 2;
 constexpr int kLeastTimeOff = 11;
 constexpr int kMostTimeOff = 45;
+static_assert(kLastLogged - kFirstLogged >= 2 * kLeastTimeOff, "a time can be off either way");
 constexpr int kLeastRepeatGap = 5;
 constexpr std::string_view kPortable = "/P";
 
@@ -84,7 +85,7 @@ class Planter {
     contact.minute = minute;
     DrawReports(random_, contact);
     contact.numbers[1] = random_.Between(1, 60);
-    contact.entries[0].minute = minute + stations_[log].clock_error;
+    contact.entries[0].minute = LoggedMinute(stations_[log], minute);
     contact.entries[1].present = false;
     return contact;
   }
@@ -143,13 +144,16 @@ class Planter {
   void ShiftTime() {
     if (const auto spot = spots_.Take()) {
       const int across = EntryAcross(*spot).minute;
-      const int amount = random_.Between(kLeastTimeOff, kMostTimeOff);
-      const int off = random_.Chance(50) ? amount : -amount;
-      const bool inside = across + off >= kFirstLogged && across + off <= kLastLogged;
-      const int shift = inside ? off : -off;
+      const auto room = [&](bool late) {
+        return late ? kLastLogged - across : across - kFirstLogged;
+      };
+      const bool drawn_late = random_.Chance(50);
+      const bool late = room(drawn_late) < kLeastTimeOff ? !drawn_late : drawn_late;
+      const int amount = random_.Between(kLeastTimeOff, std::min(kMostTimeOff, room(late)));
+      const int shift = late ? amount : -amount;
       EntryAt(*spot).minute = across + shift;
       Note(*spot, FaultKind::kTimeOff, Hhmm(across), Hhmm(across + shift),
-           Join(shift > 0 ? "+" : "", shift, " minutes from the other log"));
+           Join(late ? "+" : "", shift, " minutes from the other log"));
     }
   }
 
@@ -185,7 +189,7 @@ class Planter {
   void AddSelf() {
     Contact contact = LoneContact();
     const Station& own = stations_[contact.stations[0]];
-    contact.entries[0].valid = false;
+    contact.entries[0].claim = Claim::kNothing;
     contact.entries[0].call = own.call;
     contact.entries[0].locator = own.locator;
     Note(AddContact(std::move(contact)), FaultKind::kSelfQso, "", own.call,
@@ -203,7 +207,7 @@ class Planter {
       const int minute = random_.Between(first.minute + kLeastRepeatGap, kLastMinute);
       Contact contact = LoneContact(first.stations[spot->side], minute);
       contact.repeats = spot->contact;
-      contact.entries[0].valid = false;
+      contact.entries[0].claim = Claim::kNothing;
       contact.entries[0].call = StationAcross(*spot).call;
       contact.entries[0].locator = StationAcross(*spot).locator;
       contact.entries[0].form = marked ? RowForm::kMarkedDuplicate : RowForm::kWhole;
@@ -218,15 +222,16 @@ class Planter {
   void AddError() {
     Contact contact = LoneContact();
     contact.mode = 0;
-    contact.entries[0].valid = false;
+    contact.entries[0].claim = Claim::kNothing;
     contact.entries[0].call = "ERROR";
     Note(AddContact(std::move(contact)), FaultKind::kErrorRow, "", "ERROR", "a number used up");
   }
 
+  // Such a row is neither an error nor a double on insertion: the header has to count it.
   void Delete() {
     if (const auto spot = spots_.Take()) {
       EntryAt(*spot).exchange = "DELETED";
-      EntryAt(*spot).valid = false;
+      EntryAt(*spot).claim = Claim::kCounted;
       Note(*spot, FaultKind::kDeletedRow, "", "DELETED", "the other log has the QSO");
     }
   }

@@ -61,16 +61,16 @@ class LogWriter {
     return row.entry().locator.empty() ? 0 : QsoPoints(plan_.station->locator, row.entry().locator);
   }
 
-  int Claim(const LogRow& row) const {
+  int PointsOf(const LogRow& row) const {
     const int kilometres = Kilometres(row);
     return plan_.style.points == PointsRule::kOtherContest ? OtherContestPoints(kilometres)
                                                            : kilometres;
   }
 
   void AddUp(const LogRow& row) {
-    if (row.entry().valid) {
-      ++valid_;
-      total_ += Claim(row);
+    valid_ += row.entry().claim == Claim::kNothing ? 0 : 1;
+    if (row.entry().claim == Claim::kScored) {
+      total_ += PointsOf(row);
       if (best_ == nullptr || Kilometres(row) > Kilometres(*best_)) {
         best_ = &row;
       }
@@ -164,9 +164,9 @@ class LogWriter {
 
   void AddRemarks() {
     static constexpr std::array<std::string_view, 5> kRemarks = {
-        "Propagazione scarsa al mattino, meglio dopo le 11", "Vento forte, antenna bloccata a nord",
-        "Grazie a tutti e alla prossima", "Prima volta in questo contest: bello!",
-        "Operato dal terrazzo di casa"};
+        "Propagazione scarsa all'inizio, meglio dopo le 10 e 30",
+        "Vento forte, antenna bloccata a nord", "Grazie a tutti e alla prossima",
+        "Prima volta in questo contest: bello!", "Operato dal terrazzo di casa"};
     lines_.emplace_back("[Remarks]");
     for (std::size_t i = 0; i < plan_.style.remarks; ++i) {
       lines_.emplace_back(kRemarks[(plan_.rank + i) % kRemarks.size()]);
@@ -177,12 +177,20 @@ class LogWriter {
     return plan_.style.small_letters ? Lower(text) : text;
   }
 
+  // The word "ERROR" and the own call stand as they are: small letters would hide a QSO with
+  // oneself from the recalculation, and the log could not be inserted.
+  std::string StyledCall(const LogRow& row) const {
+    const std::string& call = row.entry().call;
+    const bool as_it_is = row.contact->mode == 0 || call == plan_.station->call;
+    return as_it_is ? call : Styled(call);
+  }
+
   std::string Points(const LogRow& row) const {
     if (plan_.style.points == PointsRule::kNone) {
       return "";
     }
-    const bool counted = row.entry().valid || row.entry().form == RowForm::kWhole;
-    return std::to_string(counted && row.contact->mode != 0 ? Claim(row) : 0);
+    const bool marked = row.entry().form == RowForm::kMarkedDuplicate;
+    return std::to_string(marked || row.contact->mode == 0 ? 0 : PointsOf(row));
   }
 
   // Mode, reports and numbers of both sides; of an error row the own number alone is left.
@@ -199,14 +207,14 @@ class LogWriter {
   void AddQso(std::size_t index) {
     const LogRow& row = plan_.rows[index];
     const Entry& entry = row.entry();
-    const bool error = row.contact->mode == 0;
     std::string line =
-        Join(plan_.date, ";", Hhmm(entry.minute), ";", error ? entry.call : Styled(entry.call), ";",
-             Exchange(row), ";", entry.exchange, ";", Styled(entry.locator), ";", Points(row), ";");
+        Join(plan_.date, ";", Hhmm(entry.minute), ";", StyledCall(row), ";", Exchange(row), ";",
+             entry.exchange, ";", Styled(entry.locator), ";", Points(row), ";");
     if (index == stray_row_ && plan_.style.stray_mark != '\0') {
       line += plan_.style.stray_mark;
     }
-    const bool new_square = entry.valid && squares_.insert(entry.locator.substr(0, 4)).second;
+    const bool new_square =
+        entry.claim == Claim::kScored && squares_.insert(entry.locator.substr(0, 4)).second;
     line += Join(";", new_square ? "N" : "", ";;");
     if (entry.form == RowForm::kMarkedDuplicate) {
       line += "D";

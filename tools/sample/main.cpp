@@ -20,7 +20,7 @@ constexpr std::string_view kUsage =
     "Writes the logs of a sample contest into FOLDER, which is made if missing, and the list of\n"
     "the faults planted in them to guasti_piantati.txt beside FOLDER.\n"
     "  SEED      0 or more; the same numbers give the same files\n"
-    "  STATIONS  how many send a log, 2 to 1000\n"
+    "  STATIONS  how many send a log, 2 to 2000\n"
     "  QSOS      how many a log has on average, 1 to 800, fewer than STATIONS\n"
     "            (5 or more from 20 STATIONS on)\n"
     "Exit codes: 0 written, 1 not possible, 2 wrong arguments.\n";

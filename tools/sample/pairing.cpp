@@ -1,6 +1,9 @@
 #include "sample/pairing.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <optional>
 #include <string>
 
 #include "sample/contacts.h"
@@ -8,6 +11,9 @@
 namespace velmar::sample {
 
 namespace {
+
+constexpr int kGreatestWeight = 8;
+constexpr int kBlindDraws = 32;
 
 // Subsquares to the east and to the north.
 struct Cell {
@@ -29,7 +35,7 @@ int WeightOf(const Cell& a, const Cell& b) {
   const long long north = (a.north - b.north) * 463LL;
   const long long square = east * east + north * north;
   const auto within = [square](long long km) { return square < km * km * 10000; };
-  return within(50) ? 4 : within(300) ? 8 : within(500) ? 4 : within(750) ? 2 : 1;
+  return within(50) ? 4 : within(300) ? kGreatestWeight : within(500) ? 4 : within(750) ? 2 : 1;
 }
 
 class Pairing {
@@ -37,9 +43,10 @@ class Pairing {
   Pairing(Random& random, const std::vector<Station>& stations, std::size_t qsos)
       : random_(random),
         stations_(stations),
+        everyone_(stations.size()),
         degrees_(stations.size()),
-        worked_(stations.size(), std::vector<bool>(stations.size())),
-        weights_(stations.size()) {
+        worked_(stations.size(), std::vector<bool>(stations.size())) {
+    std::iota(everyone_.begin(), everyone_.end(), std::size_t{0});
     const int mean = static_cast<int>(qsos);
     const std::size_t most = std::min(kMostPairs, stations.size() - 1);
     for (const Station& station : stations) {
@@ -65,22 +72,22 @@ class Pairing {
     const auto accepted = [this](std::size_t i) { return stations_[i].accepted(); };
     for (std::size_t i = 0; i < stations_.size(); ++i) {
       for (int times = stations_[i].accepted() ? 0 : 2; times > 0; --times) {
-        if (!Work(i, wanted)) {
-          Work(i, accepted);
+        if (!Work(i, everyone_, wanted)) {
+          Work(i, everyone_, accepted);
         }
       }
     }
   }
 
+  // Who had its turn is full, or has met everyone who is not: nobody need look there again.
   void WorkToTargets() {
-    std::vector<std::size_t> order;
-    for (std::size_t i = 0; i < stations_.size(); ++i) {
-      order.push_back(i);
-    }
-    random_.Shuffle(order);
+    std::vector<std::size_t> left = everyone_;
+    random_.Shuffle(left);
     const auto wanted = [this](std::size_t i) { return BelowTarget(i); };
-    for (const std::size_t i : order) {
-      while (BelowTarget(i) && Work(i, wanted)) {
+    while (!left.empty()) {
+      const std::size_t i = left.back();
+      left.pop_back();
+      while (BelowTarget(i) && Work(i, left, wanted)) {
       }
     }
   }
@@ -88,31 +95,60 @@ class Pairing {
   void WorkTheIdle() {
     for (std::size_t i = 0; i < stations_.size(); ++i) {
       if (degrees_[i] == 0) {
-        Work(i, [](std::size_t) { return true; });
+        Work(i, everyone_, [](std::size_t) { return true; });
       }
     }
   }
 
-  // Pairs a station with a new one of those wanted; false when there is none.
+  // Pairs a station with a new one of those that are wanted; false when there is none.
   template <typename Wanted>
-  bool Work(std::size_t i, const Wanted& wanted) {
-    int total = 0;
-    for (std::size_t j = 0; j < stations_.size(); ++j) {
-      const bool logged = stations_[i].sends_log || stations_[j].sends_log;
-      const bool possible = j != i && logged && !worked_[i][j] && wanted(j);
-      weights_[j] = possible ? WeightOf(cells_[i], cells_[j]) : 0;
-      total += weights_[j];
+  bool Work(std::size_t i, const std::vector<std::size_t>& others, const Wanted& wanted) {
+    const auto weight = [&](std::size_t j) { return wanted(j) ? WeightOfNew(i, j) : 0; };
+    auto partner = DrawBlind(others, weight);
+    if (!partner) {
+      partner = DrawFromAll(others, weight);
     }
+    if (partner) {
+      Connect(i, *partner);
+    }
+    return partner.has_value();
+  }
+
+  // 0 for two stations that cannot work each other any more.
+  int WeightOfNew(std::size_t i, std::size_t j) const {
+    const bool logged = stations_[i].sends_log || stations_[j].sends_log;
+    return j != i && logged && !worked_[i][j] ? WeightOf(cells_[i], cells_[j]) : 0;
+  }
+
+  // Draws of any station, each kept as often as its weight tells: most partners are found so, and
+  // the weights of the others need not be added up.
+  template <typename Weight>
+  std::optional<std::size_t> DrawBlind(const std::vector<std::size_t>& others,
+                                       const Weight& weight) {
+    for (int draws = 0; draws < kBlindDraws && !others.empty(); ++draws) {
+      const std::size_t j = random_.Pick(others);
+      if (random_.Between(1, kGreatestWeight) <= weight(j)) {
+        return j;
+      }
+    }
+    return std::nullopt;
+  }
+
+  template <typename Weight>
+  std::optional<std::size_t> DrawFromAll(const std::vector<std::size_t>& others,
+                                         const Weight& weight) {
+    weights_.clear();
+    std::ranges::transform(others, std::back_inserter(weights_), weight);
+    const int total = std::accumulate(weights_.begin(), weights_.end(), 0);
     if (total == 0) {
-      return false;
+      return std::nullopt;
     }
     int drawn = random_.Between(1, total);
-    std::size_t partner = 0;
-    while ((drawn -= weights_[partner]) > 0) {
-      ++partner;
+    std::size_t at = 0;
+    while ((drawn -= weights_[at]) > 0) {
+      ++at;
     }
-    Connect(i, partner);
-    return true;
+    return others[at];
   }
 
   void Connect(std::size_t i, std::size_t j) {
@@ -124,11 +160,12 @@ class Pairing {
 
   Random& random_;
   const std::vector<Station>& stations_;
+  std::vector<std::size_t> everyone_;
   std::vector<Cell> cells_;
   std::vector<std::size_t> targets_;
   std::vector<std::size_t> degrees_;
   std::vector<std::vector<bool>> worked_;
-  std::vector<int> weights_;
+  std::vector<int> weights_;  // those of the last draw from all
   std::vector<std::pair<std::size_t, std::size_t>> pairs_;
 };
 

@@ -16,7 +16,7 @@ namespace velmar {
 
 namespace {
 
-constexpr int kMostStations = 1000;
+constexpr int kMostStations = 2000;
 constexpr int kMostQsos = 800;
 constexpr int kLeastQsosForEveryFault = 5;
 
@@ -38,7 +38,7 @@ bool IsDate(const std::string& date) {
 
 void CheckOptions(const SampleOptions& options) {
   Demand(options.stations >= 2 && options.stations <= kMostStations,
-         "the number of stations is not from 2 to 1000");
+         "the number of stations is not from 2 to 2000");
   Demand(options.qsos >= 1 && options.qsos <= kMostQsos, "the number of QSOs is not from 1 to 800");
   Demand(options.qsos < options.stations, "a log cannot have more QSOs than other stations");
   Demand(options.qsos >= kLeastQsosForEveryFault ||

@@ -63,6 +63,12 @@ char Letter(Random& random, char low, char high) {
   return static_cast<char>(random.Between(low, high));
 }
 
+// The renaming takes "I/" and "IK/" for prefixes wherever they stand: a portable call that ends so
+// would lose its end, and might come out as the call of another station.
+bool EndsAsPrefix(std::string_view call) {
+  return call.ends_with("I") || call.ends_with("IK");
+}
+
 // A call whose last part begins with Q: such calls are given to nobody.
 std::string MakeCall(Random& random, const Region& region, CallPool& calls) {
   std::string call;
@@ -70,7 +76,7 @@ std::string MakeCall(Random& random, const Region& region, CallPool& calls) {
     call = Join(random.Pick(region.prefixes), "Q");
     call += Letter(random, 'A', 'Z');
     call += Letter(random, 'A', 'Z');
-  } while (!calls.Add(call));
+  } while (EndsAsPrefix(call) || !calls.Add(call));
   return call;
 }
 

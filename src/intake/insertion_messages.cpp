@@ -1,0 +1,412 @@
+#include "intake/insertion_messages.h"
+
+#include "model/edi_log.h"
+#include "model/text.h"
+#include "platform/ansi.h"
+
+namespace velmar {
+
+namespace {
+
+/// A date YYMMDD as it is shown, or that there is none.
+std::string ShownDate(std::string_view date) {
+  return Trim(date).empty() ? " riga vuota "
+                            : Join(Mid(date, 1, 2), "-", Mid(date, 3, 2), "-", Mid(date, 5, 2));
+}
+
+std::string OwnCall(const IntakeState& log) {
+  return std::string(Trim(log.own_call));
+}
+
+Box PointsBox(const IntakeState& log, bool missing) {
+  if (missing) {
+    return {.lines = {" ATTENZIONE ",
+                      " alla riga 29 (CQSOP=) manca il numero del punteggio dichiarato.",
+                      " Questo dato NON è optional, è calcolato dal programma utilizzato "_a,
+                      " per generare il file edi e non deve essere mancante",
+                      " Questo log non può essere inserito."_a, " ",
+                      " Inserisci in quella riga il valore che c'è alla riga 'CQSOP=' "_a,
+                      " sulla stessa intestazione del log"}};
+  }
+  return {.lines = {
+              " ATTENZIONE ",
+              " alla riga 29 (CQSOP=) deve comparire SOLO il numero del punteggio effettuato",
+              " Questo dato NON è optional o modificabile, è calcolato dal programma utilizzato "_a,
+              " per generare il file edi e non deve essere modificato.",
+              " Questo log non può essere inserito."_a, " ",
+              " In questa riga deve esserci SOLO un numero e nessun altro simbolo o lettera ",
+              " esempio dati  corretti : CQSOP=43220",
+              Join(" invece è stato trovato : "_a, log.Row(header_row::kPoints))}};
+}
+
+Box NoTotalBox() {
+  return {.lines = {" ATTENZIONE ",
+                    " alla riga 36 (CToSc=) manca il valore del punteggio totale ottenuto.",
+                    " Questo dato NON è optional, è calcolato dal programma utilizzato "_a,
+                    " per generare il file edi e non deve essere mancante o manomesso.",
+                    " Questo log non può essere inserito."_a, " ",
+                    " Inserisci in quella riga il valore del totale dei punti di tutti i qso",
+                    " File spostato in ......\\Log da ricontrollare"}};
+}
+
+Box BadDxBox() {
+  return {.lines = {" ATTENZIONE nel log alla riga CODXC i dati non sono corretti",
+                    " nella riga relativa la qso DX. CODXC=        ",
+                    " I dati possono essere omessi ma i 2 ;; devono esserci. ",
+                    " Correggi il log manualmente. Inserimento annullato", " ",
+                    " File è stato spostato in ...\\Log da ricontrollare"_a}};
+}
+
+/// The counts of a log that have to agree.
+struct Counts {
+  explicit Counts(const IntakeState& log)
+      : total(log.totals.rows), valid(total - log.totals.error_rows - log.totals.doubles) {}
+
+  int total;
+  int valid;
+};
+
+Box DoublesDifferBox(const IntakeState& log) {
+  const long long corrected = static_cast<long long>(Val(log.declared_qsos)) - log.totals.doubles;
+  return {
+      .lines = {" A T T E N Z I O N E  i qso da inserire NON corrispondono ai qso dichiarati.",
+                Join(" i qso dichiarati validi sono: ", log.declared_qsos,
+                     "  i qso totali nel log sono : ", Counts(log).total),
+                Join(" ma nel log c'è/ci sono "_a, log.totals.doubles, " qso doppi o qso errore "),
+                "                              ", Join(" Correggi il Log di ", OwnCall(log)),
+                Join(" Alla riga ", log.Row(header_row::kQsos)),
+                Join("      sostituisci ", log.declared_qsos, "   con   ", corrected),
+                " Il log non può essere inserito."_a}};
+}
+
+/// A box about the time of a QSO: its head, what is wrong, and its end.
+Box TimeBox(const IntakeState& log, const QsoProblem& problem, std::string first,
+            std::string second = "") {
+  Box box{.lines = {Join(" Log di ", OwnCall(log), "  Orario non valido. Ora = ", problem.time),
+                    "    ", problem.row, " ", std::move(first)}};
+  if (!second.empty()) {
+    box.lines.push_back(std::move(second));
+  }
+  box.lines.emplace_back(" Inserimento annullato. ");
+  box.lines.emplace_back(" Il log stato spostato in ....\\Log da ricontrollare");
+  return box;
+}
+
+Box NoModeBox(const QsoProblem& problem) {
+  const std::size_t call = problem.row.find(";" + problem.call + ";");
+  const std::string start(problem.row.substr(0, call + 1 + problem.call.size()));
+  return {.lines = {Join("il qso n°"_a, problem.number, " è privo del modo di emissione."_a),
+                    problem.row, " Tra la fine del call e il primo '59' ci deve eseere un numero",
+                    " compreso fra i due punti e virgola. ", "  ",
+                    Join(" esempio di correzzione: ", start, " 1 ; 59;... qso in ssb ")},
+          .title = "LOG non valido"};
+}
+
+Box SelfBox(const IntakeState& log, const QsoProblem& problem) {
+  return {.lines = {
+              Join("In questo log il qso con ", problem.call,
+                   " è uguale al proprietario del log ("_a, OwnCall(log), ")"),
+              "    ", " ", problem.row, "  ",
+              " Non è possibile inserire SE STESSI nel log. Se è un qso da considerare errato, "_a,
+              " è nessario segnalarlo con ERROR e non inserire lo stesso call del log."_a,
+              Join(" Sostituisci ", problem.call, " con 'ERROR'     qso numero ", problem.number,
+                   "  ")}};
+}
+
+Box QsoLocatorBox(const QsoProblem& problem) {
+  return {
+      .lines =
+          {Join("  Il locatore ", problem.locator, " del QSO n° "_a, problem.number, " di ",
+                problem.call, " è SBAGLIATO."_a),
+           "                     ",
+           " Controlla numeri e lettere, non ci possono essere numeri oltre ai due centrali, "
+           "verifica la lettera O con lo zero 0 ",
+           "                                 le lettere valide sono da AA a XX, non validi Y "
+           "e Z.",
+           " Il log verrà inserito ugualmente ma DECURTATO del punteggio con locatore errato."_a,
+           " Prendi nota del qso per verifiche sucessive, se il qso non ha altri errori non "
+           "verrà visualizzato e il punteggio finale è corretto."_a,
+           "    ",
+           " Con questo locatore errato non si potranno fare delle ricerche di altri call su "
+           "questo locatore inesistente.",
+           " Controlla che non sia un qso doppio nel quale non risulta il locatore. "},
+      .icon = Icon::kStop,
+      .title = " LOCATORE ERRATO"};
+}
+
+}  // namespace
+
+Box NoLogsBox() {
+  return {.lines = {" Attenzione, nella cartella del programma,",
+                    " (03 Log da inserire), NON ci sono log da inserire."}};
+}
+
+Box NoMonthBox() {
+  return {.lines = {" devi inserire il mese del contest. ",
+                    " da: menu 'Controllo' --->  Assegna nome mese allo Velmar"}};
+}
+
+Box UnfinishedNameBox() {
+  return {.lines = {" questo file deve essere corretto/rinominato prima di caricarlo"}};
+}
+
+Box BadNameBox(const IntakeState& log) {
+  return {.lines = {Join(" il nome del file : ''", log.log_name,
+                         "'' , non è corretto. Inserimento annullato."_a)}};
+}
+
+Box BadDateBox(const IntakeState& log, std::string_view contest_date) {
+  return {.lines = {"                                 ATTENZIONE                 ",
+                    Join("     nel log di  ", log.log_name), " le date dei qso       ",
+                    "     non corrispondono ai giorni del contest.               ", "     ",
+                    Join("     La data del contest è :  20"_a, ShownDate(contest_date)),
+                    Join("     sul log risulta che la data del qso è : <20"_a,
+                         ShownDate(log.last_row_date), " >     "),
+                    "  ", "     Il file sarà spostato nella directory 'log da ricontrollare'"_a,
+                    "     è sarà necessario uscire e correggere il log manualmente.   "_a},
+          .icon = Icon::kStop};
+}
+
+Box BadFirstRowBox(const IntakeState& log) {
+  const std::string_view row = log.Row(1);
+  return {
+      .lines = {Join("                      Problemi con log di:  ", log.log_name, "   "),
+                " Controlla che l'intestazione sia conforme alle direttive IARU REG 1  ",
+                " riga 1 non conforme = ",
+                Join("-", row, "- ci sono ", row.size(), " e non 12 caratteri. Controlla il log")}};
+}
+
+Box NoQsosBox(const IntakeState& log, std::string_view row) {
+  return {.lines = {" Attenzione  ", " In questo log è stato dichiarato che i qso sono ZERO "_a,
+                    Join(" controlla la riga  ", row, " del log"),
+                    " NON è possibile inserire un log con ZERO qso."_a, "  ",
+                    Join(" propritario = ", log.log_name)}};
+}
+
+Box NameWithoutDigitBox() {
+  return {.lines = {" ATTENZIONE,  nel nome di questo log non c'è il numero."_a,
+                    " Esci dal programma e correggi il nome del log manualmente.",
+                    " Inserimento annullato."}};
+}
+
+Box NoHeaderBox() {
+  return {.lines = {" problemi con intestazione  assicurati che sia un file .EDI"}};
+}
+
+Box MissingKeyBox(const IntakeState& log, const HeaderKey& key) {
+  return {.lines = {Join(key.message, " invece ho trovato : ", log.Row(key.row))}};
+}
+
+Box BadHeaderBox() {
+  return {.lines = {" lettura  interrotta, controlla il file EDI esterno a questo programma",
+                    " il file è stato spostato nella dir 'Log da ricontrollare'"_a},
+          .icon = Icon::kStop};
+}
+
+Box NoLocatorBox() {
+  return {.lines = {" in questo log NON c'è dichiarato il locatore"_a}};
+}
+
+Box OwnLocatorBox(bool in_header) {
+  return {.lines = {Join(" LOCATORE ERRATO     programma terminato - controlla log",
+                         in_header ? " " : "")}};
+}
+
+Box ForeignLocatorQuestion(const IntakeState& log) {
+  return {
+      .lines = {" A T T E N Z I O N E !!!!",
+                " Il nominativo del log è italiano ma il locatore dichiarato NON è in italia."_a,
+                Join(" Il locatore dichiarato è : "_a, log.own_locator,
+                     "   Gli squares italiani sono solo JN o JM."),
+                "  ", " Vuoi confermare questo locatore ?", "    ",
+                " SI= avanti         NO= salta log         ANNULLA= interrompi e esci"},
+      .icon = Icon::kStop,
+      .title = " Conferma Locatore ",
+      .buttons = Buttons::kYesNoCancel,
+      .default_button = 2};
+}
+
+Box ValueFaultBox(const IntakeState& log, ValueFault fault) {
+  switch (fault) {
+    case ValueFault::kCallWithoutDigit:
+      return {.lines = {" ATTENZIONE il call non ha il numero.",
+                        " Esci dal programma e correggi il log manualmente.",
+                        " Inserimento annullato,", " File spostato in ...\\Log da ricontrollare"}};
+    case ValueFault::kZeroQsos:
+      return {.lines = {" sono stati dichiarati ZERO qso ",
+                        " se non ci sono qso, il log non può essere inserito. Controlla"_a}};
+    case ValueFault::kBadPoints:
+    case ValueFault::kNoPoints:
+      return PointsBox(log, fault == ValueFault::kNoPoints);
+    case ValueFault::kNoTotal:
+      return NoTotalBox();
+    case ValueFault::kBadDx:
+      break;
+  }
+  return BadDxBox();
+}
+
+Box UnusableRowBox(std::size_t row) {
+  return {.lines = {Join(" errore inaspettato . probabili dati alterati riga ", row,
+                         " nell'intestazione. Log manipolato")}};
+}
+
+Box ControlLogBox() {
+  return {.lines = {" il call vuole essere Control log. Inserimento annullato"}};
+}
+
+Box WrongCategoryBox() {
+  return {.lines = {" ATTENZIONE,  !!!  Freq. o Categoria mancante o errata  !!!"},
+          .icon = Icon::kStop};
+}
+
+Box CorrectCategoryBox() {
+  return {.lines = {" Prego correggere Frequenza / categoria "}};
+}
+
+Box CategoryQuestion() {
+  return {.lines = {" Vuoi proseguire ?    (SI) assegno cat/freq       (NO) sposta file"},
+          .icon = Icon::kQuestion,
+          .title = "Sposto file in: LOG DA RICONTROLLARE",
+          .buttons = Buttons::kYesNo};
+}
+
+Box UpdateCategoryBox() {
+  return {.lines = {"Aggiorna Categoria/Freq. e RICARICA il file"}};
+}
+
+Box MoreValidThanRowsBox(const IntakeState& log) {
+  if (!log.qso_records_seen) {
+    return {
+        .lines = {" Attenzione log non inseribile. ",
+                  " NON è stato trovata la riga contenente la parola chiave [QSORecords;....]"_a,
+                  " Controlla che sia scritta correttamente senza spazi vuoti,",
+                  " che rispetti le maiuscole, minuscole, e che",
+                  " contenga il numero di qso effettivi a log"}};
+  }
+  return {.lines = {" Attenzione log non inseribile. ",
+                    " Nel log che  si sta leggendo il numero di qso dichiarati validi,",
+                    " sono maggiori del numero totale di qso esistenti.",
+                    " Questo non è posibile."_a}};
+}
+
+Box NotRecalculatedBox() {
+  return {.lines = {"Il file caricato non è stato processato con il ricalcolo del qrb."_a,
+                    "Questo log non può essere inserito."_a}};
+}
+
+Box AlreadyInsertedBox() {
+  return {.lines = {" log già inserito in questa categoria"_a}};
+}
+
+Box CountsDifferBox(const IntakeState& log) {
+  if (log.totals.doubles > 0) {
+    return DoublesDifferBox(log);
+  }
+  const Counts counts(log);
+  const std::string& declared = log.declared_qsos;
+  return {.lines = {
+              Join("                  A T T E N Z I O N E      nel log di ", log.log_name),
+              " I qso da inserire NON corrispondono al numero di qso dichiarati a log.",
+              Join(" i qso dichiarati validi sono : ", declared,
+                   " , i qso totali nel log sono : ", counts.total),
+              " ",
+              " Nella riga 'CQSOs=' ci deve essere il numero di qso VALIDI che ci sono nel log.",
+              " (per validi si intende i qso totali meno i qso ERROR e doppi).", "  ",
+              " in pratica la riga :",
+              Join(" CQSOs=", declared, ";1 e la riga [QSORecords;", counts.total,
+                   "] devono contene lo stesso numero "),
+              " se non ci sono qso doppi o error.", "   ",
+              Join(" Il programma ha rilevato ", log.totals.error_rows, " qso error e  ",
+                   log.totals.doubles, " qso doppi"),
+              "  ",
+              Join(" Nella riga 'CQSOs=", declared,
+                   "' deve esserci il numero di qso validi a log che sono  ", counts.valid),
+              " ", Join(" I qso totali sono: ", counts.total),
+              Join(" La riga [QSORecords;", log.declared_rows, "]  deve contenere ", counts.total),
+              " ", " il log non può essere inserito. Correggi"_a}};
+}
+
+Box OtherCategoryBox(const IntakeState& log) {
+  constexpr std::size_t kShownOfName = 2;  // one less than the category has, and meant so
+  return {.lines = {" La categoria DICHIARATA nel file è diversa da quella indicata nel NOME del "
+                    "file"_a,
+                    Join(" Categoria dichiarata =  [ ", log.category,
+                         " ] categoria nel nome file = [", Left(log.log_name, kShownOfName), "]"),
+                    " inserimento del file annullato.  Esci e correggi.", "  ",
+                    " Il file sarà spostato nella directory 'Log da ricontrollare'"_a}};
+}
+
+Box LogTroubleBox() {
+  return {.lines = {" Il LOG ha dei problemi, impossibile effettuare l' inserimento (controlla)"}};
+}
+
+Box NoFileBox() {
+  return {.lines = {" il file non è stato trovato"_a}};
+}
+
+Box NoRowsBox() {
+  return {.lines = {"problemi con il file edi (non ci sono qso), controlla !!!"}};
+}
+
+Box ProblemBox(const IntakeState& log, const QsoProblem& problem) {
+  switch (problem.fault) {
+    case QsoFault::kEarly:
+      return TimeBox(log, problem, " Il qso risulta fatto prima dell' inizio del contest");
+    case QsoFault::kLate:
+      return TimeBox(log, problem, " Il qso risulta fatto dopo la fine del contest",
+                     " Non possono esscerci qso oltre le ore 11.00 GMT ");
+    case QsoFault::kTimeFormat:
+      return TimeBox(log, problem, " l' orario del qso risulta in formato errato ",
+                     " Formato ora : 4 cifre senza altri segni. ES. ora '17:00' va scritto '1700'");
+    case QsoFault::kSelf:
+      return SelfBox(log, problem);
+    case QsoFault::kNoMode:
+      return NoModeBox(problem);
+    default:
+      return QsoLocatorBox(problem);
+  }
+}
+
+Box RowCountBox(const IntakeState& log) {
+  return {
+      .lines = {" Il numero di qso dichiarato NON coincide con i qso nel log.  CONTROLLA ",
+                Join(" qso dichiarati= ", log.declared_rows, "   qso letti =", log.RowsBetween()),
+                " Inserimento log annullato.",
+                " Il log è stato spostato in ...\\Log da ricontrollare"_a}};
+}
+
+Box PassFailedBox() {
+  return {.lines = {" ATTENZIONE !!!   Il log ha dei problemi , inserimento annullato. "}};
+}
+
+Box NoSectionBox() {
+  return {.lines = {" Devi selezionare una sezione prima di inserire il log,",
+                    " poi salva la sezione sul log e rileggi il log."}};
+}
+
+Box TimesFileBox() {
+  return {.lines = {" si è verificato un errore durante l' accesso al file tempi.txt"_a,
+                    " cio è possibile solo se non hai le autorizzazioni per questo PC"_a,
+                    " oppure non hai eseguito il programma come amministartore"}};
+}
+
+Box NeedsCategoryBox() {
+  return {.lines = {" devi aggiornare la categoria prima di inserire il file"}};
+}
+
+Box LibraryRowBox(std::string_view row) {
+  return {.lines = {Join(" ATTENZIONE   Log con errore non identificato alla riga", row)}};
+}
+
+Box TotalLibraryRowBox(std::string_view row, std::string_view call) {
+  return {.lines = {Join(" ATTENZIONE   errore non identificato alla riga", row),
+                    Join(" del log di ", Trim(call))}};
+}
+
+Box SamePlaceBox() {
+  return {.lines = {" Hai manipolato un file che era nella directory di destinazione. Azione "
+                    "annullata.(4)"}};
+}
+
+}  // namespace velmar

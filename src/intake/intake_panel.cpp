@@ -1,0 +1,247 @@
+#include "intake/intake_panel.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "intake/log_header.h"
+#include "model/text.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::array<std::string_view, 2> kScratch = {"*.ED2", "*.ED3"};
+constexpr double kGoodPercent = 3;
+constexpr double kBadPercent = 5;
+
+/// The values of several header rows behind one another.
+std::string Values(const IntakeState& log, std::size_t first, std::size_t count) {
+  std::string values;
+  for (std::size_t row = first; row < first + count; ++row) {
+    values += Join(HeaderValue(log, row), " ");
+  }
+  return std::string(Trim(values));
+}
+
+std::string Parts(const IntakeState& log, std::size_t row) {
+  const auto parts = ThreeParts(log, row);
+  return parts ? Join(parts->at(0), "  ", parts->at(1), "  ", parts->at(2)) : "";
+}
+
+std::string Whole(double number) {
+  return std::string(Trim(StrReal(number)));
+}
+
+}  // namespace
+
+void IntakePanel::Refresh() {
+  waiting_ = files_.List(session_.workspace.to_insert(), "*.*");
+  std::erase_if(waiting_, [this](const std::string& name) {
+    const bool scratch = std::ranges::any_of(
+        kScratch, [&](std::string_view pattern) { return MatchesPattern(name, pattern); });
+    if (scratch) {
+      RemoveIfThere(files_, session_.workspace.to_insert() + "/" + name);
+    }
+    return scratch;
+  });
+  ListChosenFolder();
+}
+
+void IntakePanel::ListChosenFolder() {
+  if (form_.Dir1.value.empty() || form_.Dir1.value == session_.workspace.to_insert()) {
+    form_.ShowFiles(session_.workspace.to_insert(), waiting_);
+  } else {
+    form_.ListFiles(files_, form_.Dir1.value);
+  }
+}
+
+void IntakePanel::RemoveRowCopies() {
+  RemoveMatching(files_, session_.workspace.to_insert(), kScratch.back());
+}
+
+void IntakePanel::Refuse(const IntakeState& log, Refusal refusal) {
+  Move(log, session_.workspace.to_check_again(), NameOfRefused(log, refusal));
+  Clear();
+  BecomeIdle();
+}
+
+void IntakePanel::SetAsRepeated(const IntakeState& log) {
+  Move(log, session_.workspace.repeated_logs(), {log.log_name, ""});
+}
+
+void IntakePanel::Move(const IntakeState& log, const std::string& folder, const RefusedName& name) {
+  const std::string target = FreeName(files_, log.log_path, folder, name.stem, name.suffix);
+  files_.Copy(log.log_path, folder + "/" + target);
+  RemoveSource(log);
+}
+
+void IntakePanel::RemoveSource(const IntakeState& log) {
+  files_.Remove(log.log_path);
+  // In the list alone, since reading the folder again for each of its logs would take long.
+  std::erase_if(waiting_, [&](const std::string& name) {
+    return session_.workspace.to_insert() + "/" + name == log.log_path;
+  });
+  ListChosenFolder();
+}
+
+void IntakePanel::Reset() {
+  form_.ClearColours();
+  form_.Marcafile.colour.reset();
+  form_.Rookie.checked = false;
+  form_.Young.checked = false;
+  session_.operator_mark = OperatorMark::kNone;
+}
+
+void IntakePanel::Clear() {
+  form_.ClearPanel();
+  form_.Nomedelfile.caption.clear();
+  form_.ultimo_call.caption.clear();
+  form_.Lbl_cat.caption.clear();
+  session_.operator_mark = OperatorMark::kNone;
+}
+
+void IntakePanel::ShowFile(const IntakeState& log) {
+  form_.Nomedelfile.caption = log.log_path;
+  form_.ultimo_call.caption = log.log_name;
+}
+
+void IntakePanel::ShowOwner(const IntakeState& log) {
+  const DeclaredDates dates = DatesOf(log);
+  form_.NomeContest.value = HeaderValue(log, header_row::kContest);
+  form_.datainizio.value = dates.start;
+  form_.datafine.value = dates.end;
+  form_.Callusato.value = RTrim(log.own_call);
+  form_.locusato.value = log.own_locator;
+}
+
+void IntakePanel::ShowStation(const IntakeState& log) {
+  form_.codice.value = HeaderValue(log, header_row::kExchange);
+  form_.qth.value = Values(log, header_row::kSite, 2);
+  form_.categoria.value = HeaderValue(log, header_row::kSection);
+  form_.frequenza.value = HeaderValue(log, header_row::kBand);
+  form_.operatore.value = HeaderValue(log, header_row::kOperator);
+  form_.callresp.value = HeaderValue(log, header_row::kResponsible);
+  form_.indirizzo.value = Values(log, header_row::kAddress, 2);
+  form_.citta.value = Values(log, header_row::kPostalCode, 3);
+  form_.telefono.value = Values(log, header_row::kPhone, 2);
+  form_.altri_op.value = Values(log, header_row::kOperators, 2);
+  form_.trasmettitore.value = HeaderValue(log, header_row::kTransmitter);
+  form_.potenza.value = Whole(log.power);
+  form_.ricevitore.value = HeaderValue(log, header_row::kReceiver);
+  form_.antenna.value = RTrim(log.antenna);
+  form_.altezza.value = log.shown_height;
+  if (log.height_wrong) {
+    form_.altezza.colour = colour::kRed;
+  }
+}
+
+void IntakePanel::ShowDeclared(const IntakeState& log) {
+  form_.qsovalidi.value = log.declared_qsos;
+  form_.punti.value = log.declared_points;
+  form_.squares.value = Parts(log, header_row::kSquares);
+  form_.scambi.value = Parts(log, header_row::kExchanges);
+  form_.dxcc.value = Parts(log, header_row::kCountries);
+  form_.QRB.value = HeaderValue(log, header_row::kTotal);
+  form_.codxc.value = HeaderValue(log, header_row::kDx);
+  form_.Rem1.value = Remarks(log);
+}
+
+void IntakePanel::ShowScore(double declared, double total) {
+  constexpr std::size_t kQuotientCharacters = 6;
+  const double quotient = Val(Left(Trim(StrReal(declared / total)), kQuotientCharacters));
+  const double percent = 100 * quotient - 100;
+  form_.percentuale.value = Whole(std::round(percent * 100) / 100);
+  form_.percentuale.colour = percent < kGoodPercent  ? std::optional(colour::kGreen)
+                             : percent > kBadPercent ? std::optional(colour::kRed)
+                                                     : std::nullopt;
+  const std::string sign = total > declared ? "+" : total < declared ? "-" : "";
+  form_.differenza.caption = sign.empty() ? "Diff" : "Diff " + sign;
+  form_.differenza.value = sign + Whole(std::abs(total - declared));
+  form_.differenza.colour = percent > kGoodPercent ? std::optional(colour::kYellow)
+                            : percent >= 0         ? std::optional(colour::kGreen)
+                                                   : std::nullopt;
+}
+
+void IntakePanel::ShowCounts(const IntakeState& log) {
+  form_.doppi.value = std::to_string(log.totals.doubles);
+  form_.sommaqrb.value = std::to_string(log.totals.distance);
+  form_.qsoerror.value = std::to_string(log.totals.error_rows);
+}
+
+void IntakePanel::BecomeIdle() {
+  form_.caricaedi.visible = true;
+  form_.caricaedi.enabled = true;
+  form_.apri.enabled = true;
+  form_.Info.enabled = true;
+  form_.Marcafile.visible = false;
+  form_.Marcatura.enabled = false;
+  UnlockMenus();
+}
+
+void IntakePanel::BecomeLoaded() {
+  form_.Marcafile.visible = true;
+  form_.Marcafile.enabled = true;
+  form_.Marcatura.enabled = true;
+  for (Control* control :
+       std::initializer_list<Control*>{&form_.apri, &form_.Aggiorna, &form_.Info}) {
+    control->enabled = false;
+  }
+}
+
+std::array<Menu*, 5> IntakePanel::LockedMenus() {
+  return {&form_.controlla_locatori, &form_.statistiche, &form_.controllo, &form_.ass_mese,
+          &form_.Utility};
+}
+
+void IntakePanel::LockMenus() {
+  const auto menus = LockedMenus();
+  if (!before_lock_) {
+    before_lock_.emplace();
+    std::ranges::transform(menus, before_lock_->begin(), &Menu::enabled);
+  }
+  for (Menu* menu : menus) {
+    menu->enabled = false;
+  }
+}
+
+void IntakePanel::UnlockMenus() {
+  if (before_lock_) {
+    const auto menus = LockedMenus();
+    for (std::size_t i = 0; i < menus.size(); ++i) {
+      menus.at(i)->enabled = before_lock_->at(i);
+    }
+    before_lock_.reset();
+  }
+}
+
+void IntakePanel::OpenMenus() {
+  before_lock_.reset();
+  for (Menu* menu : LockedMenus()) {
+    menu->enabled = true;
+  }
+  form_.CLA_mese_excel.enabled = true;
+}
+
+void IntakePanel::AwaitCategory() {
+  for (Control* control :
+       std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
+    control->colour = colour::kRed;
+  }
+  form_.Aggiorna.visible = true;
+  form_.Aggiorna.enabled = true;
+  form_.aggiorna_categoria.enabled = true;
+  form_.caricaedi.visible = false;
+  form_.Marcafile.visible = false;
+}
+
+void IntakePanel::Close() {
+  form_.Ins_auto.checked = false;
+  form_.Check_AUT_entry.checked = false;
+  form_.StopTurbo();
+  form_.File1.visible = false;
+  form_.Inserimento_OK.visible = false;
+  Clear();
+  form_.ShowInsertStep(false);
+}
+
+}  // namespace velmar

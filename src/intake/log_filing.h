@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "intake/intake_panel.h"
+#include "intake/intake_state.h"
+#include "model/contest_store.h"
+#include "platform/manager.h"
+#include "session/contest_session.h"
+#include "session/main_form.h"
+
+namespace velmar {
+
+/// Files the log that was read: the one moment at which it enters the contest. The store files are
+/// written in a fixed order, the participants last.
+class LogFiling {
+ public:
+  LogFiling(ContestSession& session, FileSystem& files, Manager& manager, ContestStore& store,
+            IntakePanel& panel, MainForm& form, IntakeState& log)
+      : session_(session),
+        files_(files),
+        manager_(manager),
+        store_(store),
+        panel_(panel),
+        form_(form),
+        log_(log) {}
+
+  void Marcafile_Click();
+
+  /// The same without reading the folder anew; whether the log has left it.
+  bool File();
+
+ private:
+  void Trap(const std::function<void()>& procedure);
+  void MakeTimesFile();
+  bool IsRepeated();
+  void WriteStore();
+  void AppendSums();
+  std::vector<std::string_view> RowsOfLastDate() const;
+  void AppendLibraries();
+  void AppendRows(StoreFile file, const std::vector<std::string>& rows,
+                  const std::function<Box(const std::string& row)>& complaint);
+  void AppendClassification();
+  void RemoveScratch();
+  void MoveLog();
+  void Finish();
+  void AppendLine(StoreFile file, const std::string& row);
+
+  ContestSession& session_;
+  FileSystem& files_;
+  Manager& manager_;
+  ContestStore& store_;
+  IntakePanel& panel_;
+  MainForm& form_;
+  IntakeState& log_;
+  int step_ = 0;  ///< what the filing is at, for the message of a failure
+  bool gone_ = false;
+};
+
+}  // namespace velmar

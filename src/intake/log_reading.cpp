@@ -1,0 +1,465 @@
+#include "intake/log_reading.h"
+
+#include <array>
+
+#include "intake/insertion_messages.h"
+#include "intake/log_lines.h"
+#include "model/edi_log.h"
+#include "model/lines.h"
+#include "model/store_rows.h"
+#include "model/text.h"
+#include "platform/error.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::size_t kLongestName = 35;
+constexpr std::size_t kNamePrefix = 4;  ///< characters, the category and what follows it
+constexpr std::string_view kUnfinishedName = "-_-";
+constexpr std::string_view kNameEnds = ".-_";
+constexpr std::string_view kMark =
+    edi::kRecalculated.substr(6, 20);  ///< at column 7 of the last row
+constexpr std::size_t kMostMarkedLines = 1000;
+constexpr std::string_view kEveryCategory = "UNICA";
+constexpr std::string_view kBothCategories = "UNI";
+constexpr std::string_view kTestCategory = "3IT";
+
+/// Whether logs of a category and a band are admitted to the contest.
+bool Admitted(const IntakeState& log, bool test_run) {
+  const bool category = log.category == kCategory || log.category == kBothCategories ||
+                        log.category == kEveryCategory ||
+                        (test_run && log.category == kTestCategory);
+  return category && (log.frequency == 144 || log.frequency == 145);
+}
+
+Refusal RefusalFor(ValueFault fault) {
+  switch (fault) {
+    case ValueFault::kCallWithoutDigit:
+      return Refusal::kCallWithoutDigit;
+    case ValueFault::kZeroQsos:
+      return Refusal::kZeroDeclared;
+    case ValueFault::kBadPoints:
+    case ValueFault::kNoPoints:
+      return Refusal::kBadPoints;
+    case ValueFault::kNoTotal:
+      return Refusal::kNoTotal;
+    default:
+      return Refusal::kBadDx;
+  }
+}
+
+}  // namespace
+
+LogReading::LogReading(ContestSession& session, FileSystem& files, Manager& manager,
+                       ContestStore& store, MonthAssignment& months, IntakePanel& panel,
+                       MainForm& form, LogFiling& filing, IntakeState& log)
+    : session_(session),
+      files_(files),
+      manager_(manager),
+      store_(store),
+      months_(months),
+      panel_(panel),
+      form_(form),
+      filing_(filing),
+      log_(log),
+      validation_(session, files, manager, store, panel, form),
+      last_folder_(session.workspace.to_insert()) {}
+
+void LogReading::caricaedi_Click() {
+  at_start_ = 0;
+  while (ReadNext() && form_.turbo.checked) {
+  }
+  form_.Bar1.visible = false;
+}
+
+/// Whether the log has left the folder.
+bool LogReading::ReadNext() {
+  gone_ = false;
+  Trap([&] { Read(); });
+  return gone_;
+}
+
+void LogReading::Trap(const std::function<void()>& procedure) {
+  try {
+    procedure();
+  } catch (const RunTimeError& error) {
+    if (error.number() == ErrorNumber::kBadFileName) {
+      manager_.Show(NoFileBox());
+      return;
+    }
+    manager_.Show(LogTroubleBox());
+    panel_.Clear();
+    panel_.BecomeIdle();
+  }
+}
+
+void LogReading::Read() {
+  panel_.Refresh();
+  if (!HasLogs()) {
+    return;
+  }
+  if (!session_.month_assigned) {
+    manager_.Show(NoMonthBox());
+    return;
+  }
+  ShowProgress();
+  panel_.Reset();
+  log_ = {};
+  const bool fits = ChooseFile() && NameFits() && months_.ReadContestDate(log_.code) &&
+                    TakeFile() && HeaderFits() && TakeHeader() && CategoryFits() && CountsFit() &&
+                    RowsFit() && LastChecksPass();
+  if (fits) {
+    FileAtOnce();
+  }
+}
+
+void LogReading::ShowProgress() {
+  form_.Bar1.visible = form_.turbo.checked;
+  if (form_.turbo.checked) {
+    const std::size_t left = panel_.waiting().size();
+    at_start_ = std::max(at_start_, left);
+    form_.Bar1.maximum = at_start_;
+    form_.Bar1.value = std::to_string(at_start_ - left);
+    manager_.Progress(at_start_ - left, at_start_);
+  }
+}
+
+bool LogReading::HasLogs() {
+  if (!panel_.waiting().empty()) {
+    return true;
+  }
+  form_.Inserire_log.enabled = false;
+  form_.Inserire_log.checked = true;
+  manager_.Show(NoLogsBox());
+  panel_.Clear();
+  form_.HideHeaderPanel();
+  return false;
+}
+
+bool LogReading::ChooseFile() {
+  if (form_.turbo.checked && manager_.StopWanted()) {
+    form_.StopTurbo();
+  }
+  if (form_.Check_AUT_entry.checked) {
+    if (form_.File1.items.rows().empty()) {
+      return false;
+    }
+    log_.log_path = form_.Dir1.value + "/" + form_.File1.items.rows().front();
+  } else {
+    const auto picked =
+        manager_.PickFile({.title = "",
+                           .filter = "fileedi (*.edi)|*.edi|*.ed2)|*.ed2|*.ed3)|*.ed3",
+                           .folder = last_folder_});
+    if (!picked) {
+      return false;
+    }
+    log_.log_path = *picked;
+    last_folder_ = picked->substr(0, picked->rfind('/'));
+  }
+  log_.log_name = Trim(
+      Left(std::string_view(log_.log_path).substr(log_.log_path.rfind('/') + 1), kLongestName));
+  return true;
+}
+
+bool LogReading::NameFits() {
+  if (Holds(log_.log_name, kUnfinishedName)) {
+    manager_.Show(UnfinishedNameBox());
+    return false;
+  }
+  if (log_.log_name == "*.edi") {
+    return false;
+  }
+  const std::string prefix = Upper(Left(log_.log_name, kNamePrefix));
+  log_.code = CategoryCode(prefix);
+  if (log_.code != kCategory || prefix.size() < kNamePrefix ||
+      !Holds("_- ", prefix.substr(kNamePrefix - 1))) {
+    RefuseAndTell(Refusal::kBadName, BadNameBox(log_));
+    return false;
+  }
+  return true;
+}
+
+bool LogReading::TakeFile() {
+  std::string text;
+  try {
+    text = files_.ReadAll(log_.log_path);
+  } catch (const RunTimeError& error) {
+    const bool missing = error.number() == ErrorNumber::kFileNotFound ||
+                         error.number() == ErrorNumber::kPathNotFound;
+    throw missing ? RunTimeError(ErrorNumber::kBadFileName, log_.log_path) : error;
+  }
+  const LineCheck check = TakeLines(text, session_.contest_date, form_.Testlog.checked, log_);
+  switch (check.fault) {
+    case LineFault::kDate:
+      RefuseAndTell(Refusal::kBadDate, BadDateBox(log_, session_.contest_date));
+      return false;
+    case LineFault::kNoQsos:
+      RefuseAndTell(Refusal::kNoQsos, NoQsosBox(log_, check.row));
+      return false;
+    case LineFault::kFirstRow:
+      manager_.Show(BadFirstRowBox(log_));
+      RefuseAndTell(Refusal::kBadHeader, BadHeaderBox());
+      return false;
+    case LineFault::kNone:
+      break;
+  }
+  panel_.ShowFile(log_);
+  if (!HasDigitAhead(Mid(log_.log_name, kNamePrefix + 1), kNameEnds)) {
+    RefuseAndTell(Refusal::kNameWithoutDigit, NameWithoutDigitBox());
+    return false;
+  }
+  return true;
+}
+
+bool LogReading::HeaderFits() {
+  bool bad = false;
+  if (!log_.Row(1).starts_with("[REG1T")) {
+    manager_.Show(NoHeaderBox());
+    bad = true;
+  }
+  for (const HeaderKey* key : MissingKeys(log_)) {
+    manager_.Show(MissingKeyBox(log_, *key));
+    bad = true;
+  }
+  if (bad) {
+    RefuseAndTell(Refusal::kBadHeader, BadHeaderBox());
+  }
+  return !bad;
+}
+
+bool LogReading::TakeHeader() {
+  if (const auto fault = TakeOwner(log_)) {
+    form_.Callusato.colour = colour::kLightRed;
+    RefuseAndTell(RefusalFor(*fault), ValueFaultBox(log_, *fault));
+    return false;
+  }
+  panel_.ShowOwner(log_);
+  if (!LocatorFits()) {
+    return false;
+  }
+  log_.section = form_.club.value;
+  TakeStation(log_);
+  panel_.ShowStation(log_);
+  const auto fault = TakeDeclared(log_);
+  if (fault) {
+    RefuseAndTell(RefusalFor(*fault), ValueFaultBox(log_, *fault));
+    return false;
+  }
+  WarnOfRows();
+  panel_.ShowDeclared(log_);
+  return true;
+}
+
+bool LogReading::LocatorFits() {
+  if (log_.own_locator.empty()) {
+    manager_.Show(NoLocatorBox());
+  }
+  if (!LocatorValid(Loc6(log_.own_locator))) {
+    manager_.Show(OwnLocatorBox(true));
+    throw ProgramEnd();
+  }
+  const bool in_italy = log_.own_locator.starts_with("JN") || log_.own_locator.starts_with("JM");
+  if (!log_.own_call.starts_with('I') || in_italy) {
+    return true;
+  }
+  const Reply reply = manager_.Show(ForeignLocatorQuestion(log_));
+  if (reply == Reply::kNo) {
+    Refuse(Refusal::kForeignLocator);
+  }
+  return reply == Reply::kYes;
+}
+
+void LogReading::WarnOfRows() {
+  for (const std::size_t row : {header_row::kSquares, header_row::kExchanges}) {
+    if (!ThreeParts(log_, row)) {
+      manager_.Show(UnusableRowBox(row));
+    }
+  }
+}
+
+bool LogReading::CategoryFits() {
+  const bool admitted = Admitted(log_, form_.Testlog.checked);
+  if (!admitted || (log_.category != kCategory && log_.category != kEveryCategory)) {
+    return AskForCategory(admitted);
+  }
+  log_.band_code = kBandCode;
+  form_.newcate.value = kCategory;
+  return true;
+}
+
+bool LogReading::AskForCategory(bool admitted) {
+  if (Upper(log_.category) == "CONTROLL LOG") {
+    manager_.Show(ControlLogBox());
+    return false;
+  }
+  for (Control* field : std::initializer_list<Control*>{&form_.frequenza, &form_.categoria}) {
+    if (field->value.empty()) {
+      field->colour = colour::kRed;
+    }
+  }
+  manager_.Show(WrongCategoryBox());
+  if (!admitted) {
+    manager_.Show(CorrectCategoryBox());
+    if (manager_.Show(CategoryQuestion()) != Reply::kYes) {
+      Refuse(Refusal::kCategory);
+      return false;
+    }
+  }
+  log_.needs_category = true;
+  panel_.AwaitCategory();
+  manager_.Show(UpdateCategoryBox());
+  return false;
+}
+
+bool LogReading::CountsFit() {
+  const long long invalid = log_.declared_rows - static_cast<long long>(Val(log_.declared_qsos));
+  if (invalid < 0) {
+    // The pass is run all the same, on a log that is gone.
+    RefuseAndTell(Refusal::kMoreValidThanRows, MoreValidThanRowsBox(log_));
+  }
+  form_.doppi.value = std::to_string(invalid);
+  form_.caricaedi.visible = false;
+  form_.Aggiorna.enabled = true;
+  return true;
+}
+
+bool LogReading::RowsFit() {
+  validation_.ValidateQsos(log_);
+  if (!log_.pass_failed) {
+    return true;
+  }
+  gone_ = gone_ || !files_.StampOf(log_.log_path);
+  form_.doppi.value = std::to_string(log_.totals.doubles);
+  form_.caricaedi.visible = true;
+  return false;
+}
+
+bool LogReading::LastChecksPass() {
+  if (log_.rows.size() > kMostMarkedLines) {
+    throw RunTimeError(ErrorNumber::kSubscript, "a log of too many lines");
+  }
+  if (log_.rows.empty() || !Mid(log_.rows.back(), edi::kValueColumn).starts_with(kMark)) {
+    RefuseAndTell(Refusal::kNotRecalculated, NotRecalculatedBox());
+    return false;
+  }
+  if (log_.invalid) {
+    panel_.RemoveRowCopies();
+    Refuse(Refusal::kInvalid);
+    return false;
+  }
+  if (!IsNew()) {
+    return false;
+  }
+  const auto declared = static_cast<long long>(Val(log_.declared_qsos));
+  if (log_.totals.error_rows + log_.totals.doubles + declared != log_.totals.rows) {
+    form_.qsovalidi.colour = colour::kRed;
+    RefuseAndTell(Refusal::kCountsDiffer, CountsDifferBox(log_));
+    return false;
+  }
+  panel_.LockMenus();
+  if (form_.Marcafile.visible) {
+    form_.focus = &form_.Marcafile;
+  }
+  if (log_.category == kCategory) {
+    AppendTeam();
+  }
+  form_.perc_mem.caption = std::to_string(store_.LibraryLines(log_.code));
+  form_.Lbl_cat.caption = log_.category;
+  return NameFitsCategory();
+}
+
+bool LogReading::IsNew() {
+  if (!store_.ContainsOwner(log_.own_call, log_.code)) {
+    return true;
+  }
+  manager_.Show(AlreadyInsertedBox());
+  panel_.BecomeIdle();
+  form_.Aggiorna.enabled = false;
+  panel_.RemoveRowCopies();
+  panel_.SetAsRepeated(log_);
+  gone_ = true;
+  return false;
+}
+
+void LogReading::AppendTeam() {
+  store_.Append(StoreFile::kContestTeam, log_.code,
+                Join(ContestTeamRow(log_.own_call, HeaderValue(log_, header_row::kOperators),
+                                    HeaderValue(log_, header_row::kOperators + 1)),
+                     kLineEnd));
+}
+
+bool LogReading::NameFitsCategory() {
+  if (log_.code != log_.category) {
+    form_.StopTurbo();
+    RefuseAndTell(Refusal::kNameOfOtherCategory, OtherCategoryBox(log_));
+    return false;
+  }
+  if (log_.totals.cw_rows > 0) {
+    store_.Append(
+        StoreFile::kCwCalls, log_.code,
+        Join(CwCallRow(log_.own_call, log_.code, log_.section, log_.totals.cw_rows), kLineEnd));
+  }
+  return true;
+}
+
+void LogReading::FileAtOnce() {
+  if (form_.Ins_auto.checked && form_.Marcafile.visible) {
+    gone_ = filing_.File();
+  }
+}
+
+void LogReading::Refuse(Refusal refusal) {
+  panel_.Refuse(log_, refusal);
+  gone_ = true;
+}
+
+void LogReading::RefuseAndTell(Refusal refusal, const Box& box) {
+  manager_.Show(box);
+  Refuse(refusal);
+}
+
+void LogReading::Aggiorna_Click() {
+  Trap([&] {
+    log_.category = form_.newcate.value;
+    if (log_.category == kCategory || log_.category == kEveryCategory || log_.category.empty()) {
+      log_.band_code = kBandCode;
+    }
+    const std::string text = files_.ReadAll(log_.log_path);
+    std::string changed;
+    LineReader reader(text);
+    for (std::string_view line; reader.Next(line);) {
+      const std::string capitals = Upper(line);
+      if (Holds(capitals, "PSECT=")) {
+        changed += Join("PSect=", log_.category, kLineEnd);
+      } else if (Holds(capitals, "PBAND=")) {
+        changed += Join("PBand=", log_.band_code, kLineEnd);
+      } else if (!line.empty()) {
+        changed += Join(line, kLineEnd);
+      }
+    }
+    files_.WriteAll(log_.log_path, changed);
+    form_.nome_sez.caption.clear();
+    form_.cod_sez.caption.clear();
+    for (Control* field :
+         std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
+      field->colour = colour::kGreen;
+    }
+    log_.needs_category = false;
+    form_.caricaedi.visible = true;
+    form_.Marcafile.visible = false;
+  });
+}
+
+void LogReading::Dir1_Change() {
+  Trap([&] {
+    const std::string folder = form_.Dir1.value;
+    if (files_.FolderExists(folder)) {
+      form_.ListFiles(files_, folder);
+    } else {
+      form_.ShowFiles(folder, {});
+    }
+  });
+}
+
+}  // namespace velmar
