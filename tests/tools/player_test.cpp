@@ -143,7 +143,7 @@ TEST_F(PlayerTest, ControlsAreUsedAsAPersonWould) {
   EXPECT_EQ(Play("start\nselect Combo_mese ~Mar\nshow Combo_mese\ntype Combo_mese à\n"
                  "show VLM2M_00_MESE.combo_mese\nselect Combo_mese 0\nclick OK_mese\n"
                  "click Command2\ntick turbo\ntick turbo\nshow Ins_auto\nuntick turbo\n"
-                 "show info_turbo\nkey caricaedi F5\nselect File1 0\n"),
+                 "show info_turbo\npick-cancel\nkey caricaedi F5\nselect File1 0\n"),
             PlayResult::kPlayed)
       << complaint;
   EXPECT_TRUE(Holds(records.at(3), R"("value":"Marzo ")"));
