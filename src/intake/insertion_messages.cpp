@@ -67,16 +67,16 @@ struct Counts {
 };
 
 Box DoublesDifferBox(const IntakeState& log) {
-  const long long corrected = static_cast<long long>(Val(log.declared_qsos)) - log.totals.doubles;
-  return {
-      .lines = {" A T T E N Z I O N E  i qso da inserire NON corrispondono ai qso dichiarati.",
-                Join(" i qso dichiarati validi sono: ", log.declared_qsos,
-                     "  i qso totali nel log sono : ", Counts(log).total),
-                Join(" ma nel log c'è/ci sono "_a, log.totals.doubles, " qso doppi o qso errore "),
-                "                              ", Join(" Correggi il Log di ", OwnCall(log)),
-                Join(" Alla riga ", log.Row(header_row::kQsos)),
-                Join("      sostituisci ", log.declared_qsos, "   con   ", corrected),
-                " Il log non può essere inserito."_a}};
+  const double corrected = Val(log.declared_qsos) - log.totals.doubles;
+  return {.lines = {
+              " A T T E N Z I O N E  i qso da inserire NON corrispondono ai qso dichiarati.",
+              Join(" i qso dichiarati validi sono: ", log.declared_qsos,
+                   "  i qso totali nel log sono : ", Counts(log).total),
+              Join(" ma nel log c'è/ci sono "_a, log.totals.doubles, " qso doppi o qso errore "),
+              "                              ", Join(" Correggi il Log di ", OwnCall(log)),
+              Join(" Alla riga ", log.Row(header_row::kQsos)),
+              Join("      sostituisci ", log.declared_qsos, "   con   ", Trim(StrReal(corrected))),
+              " Il log non può essere inserito."_a}};
 }
 
 /// A box about the time of a QSO: its head, what is wrong, and its end.
@@ -93,12 +93,15 @@ Box TimeBox(const IntakeState& log, const QsoProblem& problem, std::string first
 }
 
 Box NoModeBox(const QsoProblem& problem) {
-  const std::size_t call = problem.row.find(";" + problem.call + ";");
-  const std::string start(problem.row.substr(0, call + 1 + problem.call.size()));
+  std::size_t end = 0;  // behind the semicolon of the call, the third one
+  for (std::size_t field = 1; field <= edi::kCallField; ++field) {
+    end = problem.row.find(';', end) + 1;
+  }
   return {.lines = {Join("il qso n°"_a, problem.number, " è privo del modo di emissione."_a),
                     problem.row, " Tra la fine del call e il primo '59' ci deve eseere un numero",
                     " compreso fra i due punti e virgola. ", "  ",
-                    Join(" esempio di correzzione: ", start, " 1 ; 59;... qso in ssb ")},
+                    Join(" esempio di correzzione: ", Left(problem.row, end),
+                         " 1 ; 59;... qso in ssb ")},
           .title = "LOG non valido"};
 }
 
@@ -321,7 +324,7 @@ Box CountsDifferBox(const IntakeState& log) {
                    log.totals.doubles, " qso doppi"),
               "  ",
               Join(" Nella riga 'CQSOs=", declared,
-                   "' deve esserci il numero di qso validi a log che sono  ", counts.valid),
+                   " deve esserci il numero di qso validi a log che sono  ", counts.valid),
               " ", Join(" I qso totali sono: ", counts.total),
               Join(" La riga [QSORecords;", log.declared_rows, "]  deve contenere ", counts.total),
               " ", " il log non può essere inserito. Correggi"_a}};

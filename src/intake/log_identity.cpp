@@ -108,9 +108,7 @@ void TakeBand(LogIdentity& log, const std::vector<std::string_view>& header, std
     return;
   }
   NoteMissing(log, " manca PBand - ", index);
-  if (std::ranges::none_of(header, [](std::string_view row) { return HasKey(row, "PBAND"); })) {
-    log.text += " no frequenza";
-  }
+  log.text += " no frequenza";
 }
 
 void Name(LogIdentity& log) {

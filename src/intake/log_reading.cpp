@@ -33,6 +33,15 @@ bool Admitted(const IntakeState& log, bool test_run) {
   return category && (log.frequency == 144 || log.frequency == 145);
 }
 
+/// Whether a log went through the recalculation. One of too many lines raises error 9.
+bool IsMarked(std::string_view log) {
+  const auto lines = SplitLines(log);
+  if (lines.size() > kMostMarkedLines) {
+    throw RunTimeError(ErrorNumber::kSubscript, "a log of too many lines");
+  }
+  return !lines.empty() && Mid(lines.back(), edi::kValueColumn).starts_with(kMark);
+}
+
 Refusal RefusalFor(ValueFault fault) {
   switch (fault) {
     case ValueFault::kCallWithoutDigit:
@@ -313,12 +322,12 @@ bool LogReading::AskForCategory(bool admitted) {
 }
 
 bool LogReading::CountsFit() {
-  const long long invalid = log_.declared_rows - static_cast<long long>(Val(log_.declared_qsos));
+  const double invalid = log_.declared_rows - Val(log_.declared_qsos);
   if (invalid < 0) {
     // The pass is run all the same, on a log that is gone.
     RefuseAndTell(Refusal::kMoreValidThanRows, MoreValidThanRowsBox(log_));
   }
-  form_.doppi.value = std::to_string(invalid);
+  form_.doppi.value = Trim(StrReal(invalid));
   form_.caricaedi.visible = false;
   form_.Aggiorna.enabled = true;
   return true;
@@ -336,10 +345,7 @@ bool LogReading::RowsFit() {
 }
 
 bool LogReading::LastChecksPass() {
-  if (log_.rows.size() > kMostMarkedLines) {
-    throw RunTimeError(ErrorNumber::kSubscript, "a log of too many lines");
-  }
-  if (log_.rows.empty() || !Mid(log_.rows.back(), edi::kValueColumn).starts_with(kMark)) {
+  if (!IsMarked(files_.ReadAll(log_.log_path))) {
     RefuseAndTell(Refusal::kNotRecalculated, NotRecalculatedBox());
     return false;
   }
@@ -351,8 +357,8 @@ bool LogReading::LastChecksPass() {
   if (!IsNew()) {
     return false;
   }
-  const auto declared = static_cast<long long>(Val(log_.declared_qsos));
-  if (log_.totals.error_rows + log_.totals.doubles + declared != log_.totals.rows) {
+  const double counted = log_.totals.error_rows + log_.totals.doubles + Val(log_.declared_qsos);
+  if (counted != log_.totals.rows) {
     form_.qsovalidi.colour = colour::kRed;
     RefuseAndTell(Refusal::kCountsDiffer, CountsDifferBox(log_));
     return false;

@@ -1,17 +1,15 @@
-// Plays a sample contest from the received logs on, as far as the program reaches, without a
-// screen. All of it goes through the player, as a manager would go through the windows.
+// Plays a sample contest from the received logs to the first classification, without a screen. All
+// of it goes through the player, as a manager would go through the windows.
 
-#include <algorithm>
 #include <exception>
 #include <filesystem>
-#include <iomanip>
 #include <iostream>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "model/edi_log.h"
+#include "model/lines.h"
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/ansi.h"
@@ -23,7 +21,7 @@ namespace velmar {
 namespace {
 
 const SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
-constexpr std::size_t kShownLogs = 15;
+constexpr std::string_view kMonth = "GENNAIO 2025";
 constexpr std::size_t kNarrated = 120;  ///< bytes shown of a box
 
 /// The day on which the demo plays, whatever the machine's date is.
@@ -66,22 +64,6 @@ void Play(const std::string& workspace, const std::string& commands) {
   }
 }
 
-struct Standing {
-  std::string call;
-  std::string locator;
-  std::size_t qsos;
-  long long points;
-};
-
-Standing StandingOf(const std::string& text) {
-  const EdiLog log = ParseEdiLog(text);
-  Standing standing{std::string(log.own_call), std::string(log.own_locator), log.qsos.size(), 0};
-  for (const std::string_view qso : log.qsos) {
-    standing.points += static_cast<long long>(Val(SplitQso(qso).points()));
-  }
-  return standing;
-}
-
 void ReceiveLogs(FileSystem& files, const Workspace& workspace) {
   const SampleContest contest = MakeSampleContest(kContest);
   for (const ReceivedLog& log : contest.logs) {
@@ -92,21 +74,24 @@ void ReceiveLogs(FileSystem& files, const Workspace& workspace) {
             << " planted faults\n";
 }
 
-void ShowStandings(FileSystem& files, const Workspace& workspace) {
-  std::vector<Standing> standings;
-  for (const std::string& name : files.List(workspace.recalculated(), "*.*")) {
-    standings.push_back(StandingOf(files.ReadAll(workspace.recalculated() + "/" + name)));
+/// Where the manager keeps the logs that were refused.
+std::string RefusedFolder(const Workspace& workspace) {
+  return workspace.base() + "/Log rifiutati";
+}
+
+void PutAwayRefusedLogs(FileSystem& files, const Workspace& workspace) {
+  files.MakeFolder(RefusedFolder(workspace));
+  for (const std::string& name : files.List(workspace.to_check_again(), "*.*")) {
+    files.Move(workspace.to_check_again() + "/" + name, RefusedFolder(workspace) + "/" + name);
+    std::cout << "  " << Utf8FromAnsi(name) << '\n';
   }
-  std::ranges::stable_sort(standings, std::greater<>(), &Standing::points);
-  std::cout << "  Call          Locator   QSO   Points (km)\n";
-  for (std::size_t i = 0; i < std::min(kShownLogs, standings.size()); ++i) {
-    const Standing& standing = standings[i];
-    std::cout << "  " << std::left << std::setw(14) << standing.call << std::setw(8)
-              << standing.locator << std::right << std::setw(5) << standing.qsos << std::setw(10)
-              << standing.points << '\n';
-  }
-  if (standings.size() > kShownLogs) {
-    std::cout << "  ... and " << standings.size() - kShownLogs << " more\n";
+}
+
+/// The classification as it lies in the store, in the order in which the logs came in.
+void ShowClassification(FileSystem& files, const Workspace& workspace) {
+  const std::string text = files.ReadAll(workspace.classification(kMonth));
+  for (const std::string_view row : SplitLines(text)) {
+    std::cout << "  " << Utf8FromAnsi(row) << '\n';
   }
 }
 
@@ -130,14 +115,32 @@ void Run(const std::string& folder) {
        "click rinomina\n"
        "click torna_menu\n"
        "click Exit\n");
-  Heading("The recalculated logs and their points");
-  ShowStandings(files, workspace);
+  Heading("The manager puts the refused logs away: with them no start goes on");
+  PutAwayRefusedLogs(files, workspace);
+  Heading("The third start: the logs get their names, and all of them are inserted");
+  Play(workspace.base(),
+       "start\n"
+       "click OK_mese\n"
+       "click Command2\n"
+       "click Rinomina_ita\n"
+       "click rinomina\n"
+       "click VLM2M_05_rin_ITA.torna_menu\n"
+       "tick Check_AUT_entry\n"
+       "tick turbo\n"
+       "input-default\n"  // the date of the contest
+       "click caricaedi\n"
+       "answer yes\n"
+       "click VLM2M_01_input.esci\n");
+  Heading("The first classification");
+  ShowClassification(files, workspace);
 
   Heading("What was made");
-  const auto count = [&](const std::string& path) { return files.List(path, "*.*").size(); };
-  std::cout << "  " << count(workspace.recalculated()) << " recalculated logs in "
-            << workspace.recalculated() << "\n  " << count(workspace.to_check_again())
-            << " refused logs in " << workspace.to_check_again()
+  const auto count = [&](const std::string& path, std::string_view pattern) {
+    return files.List(path, pattern).size();
+  };
+  std::cout << "  " << count(workspace.category(), "*.edi") << " filed logs and their store in "
+            << workspace.category() << "\n  " << count(RefusedFolder(workspace), "*.*")
+            << " refused logs in " << RefusedFolder(workspace)
             << "\n  the list of planted faults in " << workspace.base() << "/guasti_piantati.txt\n";
 }
 
