@@ -25,6 +25,9 @@ bool IsTakenBack(std::string_view row) {
 }  // namespace
 
 void LogFiling::Marcafile_Click() {
+  if (log_.log_path.empty()) {
+    return;  // a hot key ahead of any read
+  }
   Trap([&] { panel_.Refresh(); });
   File();
 }
@@ -52,7 +55,8 @@ bool LogFiling::File() {
     if (log_.needs_category) {
       // The log is moved and counts as a participant although no QSO of it is stored.
       manager_.Show(NeedsCategoryBox());
-    } else if (IsRepeated()) {
+    } else if (TurnAwayRepeated()) {
+      gone_ = true;
       return;
     } else {
       WriteStore();
@@ -71,7 +75,7 @@ void LogFiling::MakeTimesFile() {
   }
 }
 
-bool LogFiling::IsRepeated() {
+bool LogFiling::TurnAwayRepeated() {
   if (!store_.ContainsOwner(log_.own_call, log_.code)) {
     return false;
   }
@@ -80,7 +84,6 @@ bool LogFiling::IsRepeated() {
   form_.Aggiorna.enabled = false;
   panel_.RemoveRowCopies();
   panel_.SetAsRepeated(log_);
-  gone_ = true;
   return true;
 }
 

@@ -32,10 +32,13 @@ class LogFiling {
   /// The same without reading the folder anew; whether the log has left it.
   bool File();
 
+  /// Moves the log to the repeated ones when the contest has one of its call already; whether it
+  /// has.
+  bool TurnAwayRepeated();
+
  private:
   void Trap(const std::function<void()>& procedure);
   void MakeTimesFile();
-  bool IsRepeated();
   void WriteStore();
   void AppendSums();
   std::vector<std::string_view> RowsOfLastDate() const;

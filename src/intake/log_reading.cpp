@@ -354,7 +354,8 @@ bool LogReading::LastChecksPass() {
     Refuse(Refusal::kInvalid);
     return false;
   }
-  if (!IsNew()) {
+  if (filing_.TurnAwayRepeated()) {
+    gone_ = true;
     return false;
   }
   const double counted = log_.totals.error_rows + log_.totals.doubles + Val(log_.declared_qsos);
@@ -373,19 +374,6 @@ bool LogReading::LastChecksPass() {
   form_.perc_mem.caption = std::to_string(store_.LibraryLines(log_.code));
   form_.Lbl_cat.caption = log_.category;
   return NameFitsCategory();
-}
-
-bool LogReading::IsNew() {
-  if (!store_.ContainsOwner(log_.own_call, log_.code)) {
-    return true;
-  }
-  manager_.Show(AlreadyInsertedBox());
-  panel_.BecomeIdle();
-  form_.Aggiorna.enabled = false;
-  panel_.RemoveRowCopies();
-  panel_.SetAsRepeated(log_);
-  gone_ = true;
-  return false;
 }
 
 void LogReading::AppendTeam() {

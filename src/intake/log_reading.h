@@ -52,7 +52,6 @@ class LogReading {
   bool CountsFit();
   bool RowsFit();
   bool LastChecksPass();
-  bool IsNew();
   bool NameFitsCategory();
 
   void WarnOfRows();
