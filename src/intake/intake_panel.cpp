@@ -87,6 +87,7 @@ void IntakePanel::RemoveSource(const IntakeState& log) {
 void IntakePanel::Reset() {
   form_.ClearColours();
   form_.Marcafile.colour.reset();
+  form_.Inserimento_OK.visible = false;
   form_.Rookie.checked = false;
   form_.Young.checked = false;
   session_.operator_mark = OperatorMark::kNone;
