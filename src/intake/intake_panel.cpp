@@ -28,8 +28,10 @@ std::string Parts(const IntakeState& log, std::size_t row) {
   return parts ? Join(parts->at(0), "  ", parts->at(1), "  ", parts->at(2)) : "";
 }
 
-std::string Whole(double number) {
-  return std::string(Trim(StrReal(number)));
+/// A number as a person writes it, with a zero ahead of the point.
+std::string Shown(double number) {
+  const std::string text(Trim(StrReal(std::abs(number))));
+  return Join(number < 0 ? "-" : "", text.starts_with('.') ? "0" : "", text);
 }
 
 }  // namespace
@@ -127,7 +129,7 @@ void IntakePanel::ShowStation(const IntakeState& log) {
   form_.telefono.value = Values(log, header_row::kPhone, 2);
   form_.altri_op.value = Values(log, header_row::kOperators, 2);
   form_.trasmettitore.value = HeaderValue(log, header_row::kTransmitter);
-  form_.potenza.value = Whole(log.power);
+  form_.potenza.value = Shown(log.power);
   form_.ricevitore.value = HeaderValue(log, header_row::kReceiver);
   form_.antenna.value = RTrim(log.antenna);
   form_.altezza.value = log.shown_height;
@@ -151,13 +153,13 @@ void IntakePanel::ShowScore(double declared, double total) {
   constexpr std::size_t kQuotientCharacters = 6;
   const double quotient = Val(Left(Trim(StrReal(declared / total)), kQuotientCharacters));
   const double percent = 100 * quotient - 100;
-  form_.percentuale.value = Whole(std::round(percent * 100) / 100);
+  form_.percentuale.value = Shown(std::round(percent * 100) / 100);
   form_.percentuale.colour = percent < kGoodPercent  ? std::optional(colour::kGreen)
                              : percent > kBadPercent ? std::optional(colour::kRed)
                                                      : std::nullopt;
   const std::string sign = total > declared ? "+" : total < declared ? "-" : "";
   form_.differenza.caption = sign.empty() ? "Diff" : "Diff " + sign;
-  form_.differenza.value = sign + Whole(std::abs(total - declared));
+  form_.differenza.value = sign + Shown(std::abs(total - declared));
   form_.differenza.colour = percent > kGoodPercent ? std::optional(colour::kYellow)
                             : percent >= 0         ? std::optional(colour::kGreen)
                                                    : std::nullopt;

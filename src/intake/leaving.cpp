@@ -6,6 +6,7 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 #include "platform/error.h"
+#include "session/failure.h"
 
 namespace velmar {
 
@@ -96,9 +97,8 @@ void Leaving::ClearAndEnd(const std::vector<Scratch>& places) {
                      " Se hai messo tu il file protetto devi eliminarlo manualmente, ",
                      " Se non ne conosci la natura non è un file utilizzato dal programma."_a}});
     } else {
-      manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
-                                    " nella linea : ", at + 1,
-                                    "(end) 04 Contatta l' autore del software_")}});
+      manager_.Show(
+          FailureBox(error, static_cast<int>(at) + 1, "(end) 04 Contatta l' autore del software_"));
     }
   }
   throw ProgramEnd();

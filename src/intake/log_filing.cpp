@@ -9,6 +9,7 @@
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "platform/error.h"
+#include "session/failure.h"
 
 namespace velmar {
 
@@ -36,9 +37,7 @@ void LogFiling::Trap(const std::function<void()>& procedure) {
   try {
     procedure();
   } catch (const RunTimeError& error) {
-    manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
-                                  " nella linea : ", step_,
-                                  " Marca file  03 Contatta l' autore del software_")}});
+    manager_.Show(FailureBox(error, step_, " Marca file  03 Contatta l' autore del software_"));
   }
 }
 

@@ -22,6 +22,7 @@ constexpr std::size_t kBandRow = 10;
 constexpr std::string_view kNoLog = "Log non valido";
 constexpr std::string_view kNoCall = "call non valido";
 constexpr std::string_view kNameEnd = ".edi";
+constexpr std::size_t kLongestReason = 100;
 
 /// What is taken out of a call, in this order.
 constexpr std::array<std::string_view, 22> kRemoved = {
@@ -98,23 +99,22 @@ void TakeSection(LogIdentity& log, const std::vector<std::string_view>& header, 
 
 void TakeBand(LogIdentity& log, const std::vector<std::string_view>& header, std::size_t index) {
   log.lacks_band = !HasKey(Row(header, kBandRow), "PBAND");
-  if (!log.lacks_band) {
-    log.band = Mid(Row(header, kBandRow), edi::kValueColumn);
-    if (RTrim(log.section) == kCategory && BandOf(log.band) != 144) {
-      log.text = Join(kSetAsideMark, log.text, " Problem  Cat=", log.section, " Freq=", log.band,
-                      " ", index);
-      log.valid = false;
-    }
+  if (log.lacks_band) {
+    NoteMissing(log, " manca PBand - ", index);
+    log.text += " no frequenza";
     return;
   }
-  NoteMissing(log, " manca PBand - ", index);
-  log.text += " no frequenza";
+  log.band = Mid(Row(header, kBandRow), edi::kValueColumn);
+  if (RTrim(log.section) == kCategory && BandOf(log.band) != 144) {
+    log.text = Join(kSetAsideMark, log.text, " Problem  Cat=", log.section, " Freq=", log.band, " ",
+                    index);
+    log.valid = false;
+  }
 }
 
 void Name(LogIdentity& log) {
   log.text = RTrim(SeparatorsUnified(log.text));
   log.text = log.text.substr(0, log.text.find('\t'));
-  log.note = log.valid ? "" : log.text;
   log.new_name = log.valid ? Join(kCategory, "_", log.text, kNameEnd) : SetAsideName(log.text);
 }
 
@@ -141,7 +141,8 @@ CleanedCall CleanCall(std::string_view declared) {
   if (position > 0) {
     call = position <= kLongestPrefix ? Mid(call, position + 1) : Left(call, position - 1);
   }
-  return call.empty() ? CleanedCall{std::string(kNoCall)} : CleanedCall{call, true, removals};
+  return call.empty() ? CleanedCall{std::string(kNoCall), false, removals}
+                      : CleanedCall{call, true, removals};
 }
 
 LogIdentity IdentifyLog(std::string_view text, std::size_t index) {
@@ -162,7 +163,11 @@ LogIdentity IdentifyLog(std::string_view text, std::size_t index) {
 }
 
 std::string SetAsideName(std::string_view text) {
-  return Join(kSetAsideMark, "_", text, kNameEnd);
+  // What a log declares may be too long for a file name, or no text at all.
+  std::string fit(Left(text, kLongestReason));
+  std::ranges::replace_if(
+      fit, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  return Join(kSetAsideMark, "_", fit, kNameEnd);
 }
 
 std::string WithSection(std::string_view log, std::string_view section) {

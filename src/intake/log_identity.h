@@ -26,7 +26,6 @@ struct LogIdentity {
   bool lacks_band = false;
   bool valid = false;  ///< fit to be inserted
   std::string text;    ///< what the name says: the call, or why the log is not valid
-  std::string note;    ///< why the log is not valid; empty for a valid one
   std::string new_name;
 };
 
@@ -34,7 +33,7 @@ struct LogIdentity {
 inline constexpr std::string_view kSetAsideMark = "00_";
 
 /// Reads the header of a log, up to its first empty line. `index` is that of the file among those
-/// of the run, from 0. A log of more than 370,000 lines raises error 9.
+/// of the run, from 0. More than 370,000 lines ahead of the first empty one raise error 9.
 LogIdentity IdentifyLog(std::string_view text, std::size_t index);
 
 /// The name of a log that is not valid or came twice, from what it is to say.

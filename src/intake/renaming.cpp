@@ -1,12 +1,14 @@
 #include "intake/renaming.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "model/edi_log.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/error.h"
+#include "session/failure.h"
 #include "session/version.h"
 
 namespace velmar {
@@ -16,6 +18,7 @@ namespace {
 constexpr std::string_view kLogs = "*.edi";
 constexpr std::size_t kMostLogs = 100'000;
 constexpr std::size_t kLongestName = 50;
+constexpr std::size_t kLongestStem = 150;  ///< of a name that gets a suffix
 constexpr std::string_view kFirstRowStart = edi::kFirstRow.substr(0, 9);
 
 /// The log with CR LF behind each of its lines.
@@ -57,10 +60,9 @@ void Renaming::Trap(const std::function<void()>& procedure) {
   try {
     procedure();
   } catch (const RunTimeError& error) {
-    manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
-                                  " nella linea : ", step_,
-                                  " Modulo rinomina log   Contatta l' autore del software_",
-                                  VersionDotted())}});
+    manager_.Show(FailureBox(
+        error, step_,
+        Join(" Modulo rinomina log   Contatta l' autore del software_", VersionDotted())));
   }
 }
 
@@ -75,6 +77,7 @@ void Renaming::Open() {
   form_.List2.items.Assign({});
   form_.Text1.value.clear();
   form_.Text2.value.clear();
+  form_.progress.value = "0";
   ShowCounters();
   step_ = 1;
   Trap([&] { RefreshLists(); });
@@ -103,49 +106,57 @@ void Renaming::rinomina_Click() {
     copied_.clear();
     form_.List1.items.Assign({});
     form_.List2.items.Assign({});
-    TidyLogs();
+    const auto logs = TidyLogs();
     step_ = 3;
-    RenameLogs();
-    step_ = 4;
-    RefreshLists();
-    form_.Text1.value = form_.file_rinominati.caption;
+    RenameLogs(logs);
     form_.rinomina.enabled = false;
     run_made_ = true;
   });
+  ShowCounters();
+  form_.Text1.value = form_.file_rinominati.caption;
+  step_ = 4;
+  Trap([&] { RefreshLists(); });
 }
 
-void Renaming::TidyLogs() {
+/// Puts the lines of all logs in order, and gives the names of those that begin as a log does.
+std::vector<std::string> Renaming::TidyLogs() {
   RefreshLists();
-  const auto logs = form_.source.items.rows();
+  auto logs = form_.source.items.rows();
   form_.progress.maximum = 2 * logs.size();
-  for (std::size_t i = 0; i < logs.size(); ++i) {
-    Tidy(logs[i]);
-    Advance(i + 1);
-  }
+  std::size_t done = 0;
+  std::erase_if(logs, [&](const std::string& name) {
+    const bool no_log = !Tidy(name);
+    Advance(++done);
+    return no_log;
+  });
+  return logs;
 }
 
-void Renaming::Tidy(const std::string& name) {
+bool Renaming::Tidy(const std::string& name) {
   const std::string text = files_.ReadAll(Source(name));
   const std::string usual = WithUsualLineEnds(text);
   if (usual != text) {
     files_.WriteAll(Source(name), usual);
   }
   if (usual.starts_with(kFirstRowStart)) {
-    return;
+    return true;
   }
   const std::string folder = session_.workspace.recalculated();
-  const std::string target = FreeName(files_, Source(name), folder,
-                                      name + " - prima riga non corretta o riga vuota", ".txt");
+  const std::string target = FreeName(files_, Source(name), folder, name.substr(0, kLongestStem),
+                                      " - prima riga non corretta o riga vuota.txt");
   files_.Move(Source(name), folder + "/" + target);
   ++counters_.not_valid;
   Tell(target);
+  return false;
 }
 
-void Renaming::RenameLogs() {
-  RefreshLists();
-  const auto logs = form_.source.items.rows();
+void Renaming::RenameLogs(const std::vector<std::string>& logs) {
   if (logs.size() > kMostLogs) {
     throw RunTimeError(ErrorNumber::kSubscript, "too many logs");
+  }
+  inserted_.clear();
+  for (const std::string& name : files_.List(session_.workspace.to_insert(), "*.*")) {
+    inserted_.emplace(Lower(name), name);
   }
   for (std::size_t i = 0; i < logs.size(); ++i) {
     Rename(logs[i], i);
@@ -166,7 +177,7 @@ void Renaming::Rename(const std::string& name, std::size_t index) {
     ++counters_.repeated;
     SetAside(name,
              SetAsideName(Join(log.text, " ", Str(static_cast<long long>(counters_.repeated)))));
-  } else if (Holds(log.new_name, kSetAsideMark)) {
+  } else if (!log.valid) {
     SetAside(name, log.new_name);
   } else {
     Insert(name, log, text);
@@ -198,17 +209,20 @@ void Renaming::SetAside(const std::string& name, const std::string& new_name) {
 
 void Renaming::Insert(const std::string& name, const LogIdentity& log, std::string_view text) {
   const std::string prefix = session_.workspace.to_insert() + "/";
+  const std::string content = WithSection(text, log.section);
   std::string new_name = FitName(log.new_name);
-  if (files_.StampOf(prefix + new_name)) {
+  const auto there = inserted_.find(Lower(new_name));
+  if (there != inserted_.end() && files_.ReadAll(prefix + there->second) != content) {
     ++counters_.repeated;
-    const std::string target =
-        Join(kSetAsideMark, name, " Call doppio", Str(static_cast<long long>(counters_.repeated)));
-    new_name = FreeName(files_, Source(name), session_.workspace.to_insert(), target, "");
+    new_name = FreeName(files_, Source(name), session_.workspace.to_insert(),
+                        Join(kSetAsideMark, name.substr(0, kLongestStem)),
+                        Join(" Call doppio", Str(static_cast<long long>(counters_.repeated))));
     Tell(Join(name, "\t", new_name));
   } else {
-    ++counters_.renamed;
+    ++counters_.renamed;  // also where an earlier run, that broke, had written it already
   }
-  files_.WriteAll(prefix + new_name, WithSection(text, log.section));
+  files_.WriteAll(prefix + new_name, content);
+  inserted_.emplace(Lower(new_name), new_name);
 }
 
 void Renaming::Tell(const std::string& row) {
@@ -233,16 +247,25 @@ void Renaming::torna_menu_Click() {
 }
 
 void Renaming::RemoveRenamed() {
-  // Only what this run copied: a log that came in behind its back is not lost.
+  // Only what this run copied: a log that came in behind its back is not lost. One that can't be
+  // removed does not keep the others.
+  std::optional<RunTimeError> failure;
   for (const std::string& name : copied_) {
-    RemoveIfThere(files_, Source(name));
+    try {
+      RemoveIfThere(files_, Source(name));
+    } catch (const RunTimeError& error) {
+      failure = error;
+    }
+  }
+  if (failure) {
+    throw RunTimeError(*failure);
   }
 }
 
 void Renaming::UpdateMenu() {
   main_.ListFiles(files_, session_.workspace.to_insert());
   if (!run_made_) {
-    return;
+    return;  // the step is still to be done, so that its item stays within reach
   }
   main_.Rinomina_ita.checked = true;
   main_.Rinomina_ita.enabled = false;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -47,9 +48,9 @@ class Renaming {
   void Trap(const std::function<void()>& procedure);
   void RefreshLists();
   void ShowCounters();
-  void TidyLogs();
-  void Tidy(const std::string& name);
-  void RenameLogs();
+  std::vector<std::string> TidyLogs();
+  bool Tidy(const std::string& name);
+  void RenameLogs(const std::vector<std::string>& logs);
   void Rename(const std::string& name, std::size_t index);
   void TellMissingRows(const std::string& name, const LogIdentity& log);
   void SetAside(const std::string& name, const std::string& new_name);
@@ -68,8 +69,9 @@ class Renaming {
   RenamingForm form_;
   int step_ = 0;  ///< what the run is at, for the message of a failure
   Counters counters_;
-  std::unordered_set<std::string> names_;  ///< given in this run
-  std::vector<std::string> copied_;        ///< the logs of the source that lie elsewhere now
+  std::unordered_set<std::string> names_;        ///< given in this run
+  std::map<std::string, std::string> inserted_;  ///< what lies among the renamed, by small letters
+  std::vector<std::string> copied_;              ///< the logs of the source that lie elsewhere now
   bool run_made_ = false;
 };
 

@@ -18,7 +18,7 @@ struct RenamingForm : Form {
   Label& call_cambiati = AddLabel("call_cambiati");
   Label& file_nonvalidi = AddLabel("file_nonvalidi");
   Label& file_rinominati = AddLabel("file_rinominati");
-  TextField& Text1 = AddText("Text1", "File rinominati");
+  TextField& Text1 = AddText("Text1", "Log pronti da inserire");
   ProgressBar& progress = AddProgress("Bar1");
   Button& rinomina = AddButton("rinomina", "Rinomina i log");
   Button& torna_menu = AddButton("torna_menu", "&Torna al menu");

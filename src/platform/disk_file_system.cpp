@@ -207,6 +207,9 @@ DiskFileSystem::DiskFileSystem() {
 
 std::string DiskFileSystem::OnDisk(const std::string& path) const {
   const std::string disk_path = DiskNameFromAnsi(path);
+  if (disk_path.find('\0') != std::string::npos) {
+    throw RunTimeError(ErrorNumber::kBadFileName, "a name with a zero byte");
+  }
   return !disk_path.empty() && disk_path.front() == '/' ? disk_path : origin_ + "/" + disk_path;
 }
 

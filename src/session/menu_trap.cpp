@@ -2,6 +2,7 @@
 
 #include "model/text.h"
 #include "platform/ansi.h"
+#include "session/failure.h"
 #include "session/version.h"
 
 namespace velmar {
@@ -42,10 +43,9 @@ void MenuTrap::Procedure(const std::function<void()>& procedure) {
   try {
     procedure();
   } catch (const RunTimeError& error) {
-    manager_.Show({.lines = {Join(" errore imprevisto numero: ", static_cast<int>(error.number()),
-                                  " nella linea : ", step_,
-                                  " menu form principale Contatta l' autore del software_",
-                                  VersionDotted())}});
+    manager_.Show(FailureBox(
+        error, step_,
+        Join(" menu form principale Contatta l' autore del software_", VersionDotted())));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -15,6 +16,7 @@
 #include "model/text.h"
 #include "ui/event_runner.h"
 #include "ui/qt_text.h"
+#include "ui/tab_stops.h"
 #include "ui/widget_binding.h"
 
 namespace velmar {
@@ -48,6 +50,21 @@ void DrawLine(QLineEdit& widget, const Control& control) {
   }
 }
 
+void DrawCaption(QLabel* caption, const Control& control) {
+  if (caption != nullptr) {
+    SetText(*caption, ToShownRow(control.caption));
+    caption->setVisible(control.visible);
+  }
+}
+
+class LabelBinding : public WidgetBinding {
+ public:
+  using WidgetBinding::WidgetBinding;
+
+ protected:
+  bool Seen() const override { return Shows(control()); }
+};
+
 void FillCombo(QComboBox& widget, const Control& control) {
   widget.clear();
   widget.addItems(ToShownRows(control.items.rows()));
@@ -67,6 +84,10 @@ void DrawCombo(QComboBox& widget, const Control& control) {
 
 }  // namespace
 
+bool Shows(const Control& control) {
+  return control.visible && (control.kind() != ControlKind::kLabel || !control.caption.empty());
+}
+
 BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner) {
   widget.setAutoDefault(true);  // so that Enter presses the button that has the focus
   return BindButton(widget, control, runner);
@@ -83,7 +104,7 @@ BindingPtr Bind(QRadioButton& widget, Option& control, EventRunner& runner) {
 
 BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner) {
   widget.setTextFormat(Qt::PlainText);
-  return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
+  return std::make_unique<LabelBinding>(widget, control, runner, [&widget, &control] {
     SetText(widget, ToShownRow(control.caption));
   });
 }
@@ -111,10 +132,19 @@ BindingPtr Bind(QLineEdit& widget, TextField& control, EventRunner& runner, QLab
                    });
   return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control, caption] {
     DrawLine(widget, control);
-    if (caption != nullptr) {
-      SetText(*caption, ToShownRow(control.caption));
-      caption->setVisible(control.visible);
+    DrawCaption(caption, control);
+  });
+}
+
+BindingPtr Bind(QPlainTextEdit& widget, TextField& control, EventRunner& runner, QLabel* caption) {
+  widget.setReadOnly(true);
+  return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control, caption] {
+    const auto start = std::string_view(control.value).substr(0, kLongestRead + 1);
+    const QString text = ToShownRow(TabStops().Spread(start), kLongestRead);
+    if (widget.toPlainText() != text) {
+      widget.setPlainText(text);
     }
+    DrawCaption(caption, control);
   });
 }
 

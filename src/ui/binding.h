@@ -13,6 +13,7 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QMenuBar;
+class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
@@ -49,6 +50,9 @@ class Binding {
 
 using BindingPtr = std::unique_ptr<Binding>;
 
+/// Whether a control has anything to show. A label without a text takes no room.
+bool Shows(const Control& control);
+
 // Bind a widget to a control of its kind. Widget, control and runner outlive the binding.
 BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner);
 BindingPtr Bind(QCheckBox& widget, Check& control, EventRunner& runner);
@@ -68,6 +72,9 @@ BindingPtr Bind(QGroupBox& widget, Label& control, EventRunner& runner);
 /// A text field. `caption`, if any, shows the control's caption beside it, and is seen with it.
 BindingPtr Bind(QLineEdit& widget, TextField& control, EventRunner& runner,
                 QLabel* caption = nullptr);
+
+/// A text field whose text, of many lines perhaps, is only read.
+BindingPtr Bind(QPlainTextEdit& widget, TextField& control, EventRunner& runner, QLabel* caption);
 
 /// A label whose colour tells a state: besides the colour it bears a mark that differs in shape.
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner);

@@ -13,7 +13,7 @@ namespace velmar {
 
 namespace {
 
-constexpr QSize kSmallest(640, 480);
+constexpr QSize kSmallest(640, 500);
 constexpr QSize kUsual(860, 520);
 constexpr int kLampSize = 26;
 

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "intake/renaming.h"
 #include "platform/ansi.h"
 #include "ui/config_window.h"
 #include "ui/event_runner.h"
@@ -11,6 +12,7 @@
 #include "ui/main_window.h"
 #include "ui/month_window.h"
 #include "ui/recalculation_window.h"
+#include "ui/renaming_window.h"
 
 namespace velmar {
 
@@ -20,6 +22,7 @@ Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
   Add(std::make_unique<MonthWindow>(program.month_dialog().form(), runner));
   Add(std::make_unique<ConfigWindow>(program.config_dialog().form(), runner));
   Add(std::make_unique<RecalculationWindow>(program.recalculation().form(), runner));
+  Add(std::make_unique<RenamingWindow>(program.renaming().form(), runner));
   program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };
   runner.on_refresh = [this] { Refresh(); };
   runner.on_failure = [this](const std::string& what) { TellFailure(what); };

@@ -1,15 +1,19 @@
 #include "ui/form_window.h"
 
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <algorithm>
 #include <utility>
 
 #include "ui/event_runner.h"
+#include "ui/look.h"
+#include "ui/path_view.h"
 #include "ui/qt_text.h"
 #include "ui/widget_binding.h"
 
@@ -42,9 +46,45 @@ QLineEdit* FormWindow::MakeDisplay(TextField& control, QLabel* caption) {
 }
 
 FormWindow::Field FormWindow::MakeField(TextField& control) {
-  const Field field{new QLabel, new QLineEdit};
+  return MakeFieldOf(control, new QLineEdit);
+}
+
+FormWindow::Field FormWindow::MakePathField(TextField& control) {
+  return MakeFieldOf(control, new PathLine);
+}
+
+FormWindow::Field FormWindow::MakeFieldOf(TextField& control, QLineEdit* line) {
+  const Field field{new QLabel, line};
   AddBinding(Bind(*field.line, control, runner_, field.caption));
   return field;
+}
+
+QPlainTextEdit* FormWindow::MakeReader(TextField& control, int lines, int most_lines,
+                                       QLabel* caption) {
+  auto* reader = new QPlainTextEdit;
+  reader->setFocusPolicy(Qt::ClickFocus);
+  const int line = reader->fontMetrics().lineSpacing() + 1;  // the font's is cut to whole pixels
+  const int margin = static_cast<int>(reader->document()->documentMargin());
+  const int frame = 2 * (reader->frameWidth() + margin);
+  reader->setMinimumHeight(lines * line + frame);
+  reader->setMaximumHeight(most_lines * line + frame);
+  AddBinding(Bind(*reader, control, runner_, caption));
+  return reader;
+}
+
+QWidget* FormWindow::MakeTitled(const QString& title, Label& control) {
+  auto* pair = new QWidget;
+  auto* row = new QHBoxLayout(pair);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(kSpacing);
+  auto* caption = new QLabel(title);
+  SetQuiet(*caption);
+  row->addWidget(caption);
+  auto* value = Make<QLabel>(control);
+  value->setFont(HeadingFont(0));
+  row->addWidget(value);
+  ShowWithAny(*pair, {&control});
+  return pair;
 }
 
 QLabel* FormWindow::MakeLamp(Label& control) {
@@ -97,7 +137,7 @@ void FormWindow::Refresh() {
   }
   for (const Group& group : groups_) {
     group.widget->setVisible(std::ranges::any_of(
-        group.controls, [](const Control* control) { return control->visible; }));
+        group.controls, [](const Control* control) { return Shows(*control); }));
   }
   ApplyFocus();
 }

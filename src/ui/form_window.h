@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QString>
 #include <memory>
 #include <vector>
 
@@ -42,11 +43,18 @@ class FormWindow : public QMainWindow {
     QLineEdit* line;
   };
   Field MakeField(TextField& control);
+  Field MakePathField(TextField& control);
+
+  /// Makes a text that is only read, from `lines` to `most_lines` high.
+  QPlainTextEdit* MakeReader(TextField& control, int lines, int most_lines, QLabel* caption);
+
+  /// Makes a label that holds a bare value, with a title before it that comes and goes with it.
+  QWidget* MakeTitled(const QString& title, Label& control);
 
   QLabel* MakeLamp(Label& control);
   void MakeMenu();
 
-  /// Hides `group` while none of `controls` is to be seen.
+  /// Hides `group` while none of `controls` shows anything.
   void ShowWithAny(QWidget& group, std::vector<const Control*> controls);
 
   /// The button that Enter presses wherever the focus is.
@@ -72,6 +80,7 @@ class FormWindow : public QMainWindow {
     std::vector<const Control*> controls;
   };
 
+  Field MakeFieldOf(TextField& control, QLineEdit* line);
   void AddBinding(BindingPtr binding);
   void ApplyFocus();
 

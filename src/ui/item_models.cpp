@@ -11,6 +11,11 @@ namespace {
 
 constexpr int kRowPadding = 6;  // px, between the rows and at both ends together
 
+/// The part of a row that can be shown, and one character more where there is more.
+std::string_view Start(const std::string& row) {
+  return std::string_view(row).substr(0, kLongestShown + 1);
+}
+
 const std::string* RowAt(const Control& control, int row) {
   const auto& rows = control.items.rows();
   const auto at = static_cast<std::size_t>(row);
@@ -30,9 +35,13 @@ bool RowsModel::Refresh() {
   version_ = control_.items.version();
   const auto& rows = control_.items.rows();
   count_ = static_cast<int>(rows.size());
+  stops_ = {};
+  for (const std::string& row : rows) {
+    stops_.Widen(Start(row));
+  }
   widest_ = 0;
   for (const std::string& row : rows) {
-    widest_ = std::max(widest_, std::min(row.size(), kLongestShown + 1));
+    widest_ = std::max(widest_, std::min(stops_.WidthOf(Start(row)), kLongestShown + 1));
   }
   endResetModel();
   return true;
@@ -49,7 +58,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   if (role == Qt::DisplayRole) {
-    return ToShownRow(*row);
+    return ToShownRow(stops_.Spread(Start(*row)));
   }
   if (role == Qt::SizeHintRole) {
     return QSize(metrics_.horizontalAdvance('M') * static_cast<int>(widest_) + 2 * kRowPadding,

@@ -75,6 +75,13 @@ void SetQuiet(QLabel& label) {
   label.setPalette(palette);
 }
 
+void SetCaption(QLabel& label) {
+  SetQuiet(label);
+  QFont font = QApplication::font();
+  font.setPointSize(font.pointSize() - 1);
+  label.setFont(font);
+}
+
 void Centre(QWidget& widget) {
   const QRect room = widget.screen()->availableGeometry();
   widget.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,

@@ -23,6 +23,9 @@ QFont HeadingFont(int larger);
 /// Draws a label's text in the colour of things that matter less.
 void SetQuiet(QLabel& label);
 
+/// The same in a smaller font, for a caption above what it belongs to.
+void SetCaption(QLabel& label);
+
 /// Puts a widget in the middle of its screen.
 void Centre(QWidget& widget);
 

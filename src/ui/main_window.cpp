@@ -2,15 +2,13 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
-#include <vector>
 
 #include "ui/look.h"
 #include "ui/row_view.h"
@@ -21,7 +19,7 @@ namespace {
 
 constexpr int kIntakeWidth = 300;
 constexpr int kStepWidth = 360;
-constexpr QSize kSmallest(860, 560);
+constexpr QSize kSmallest(980, 640);
 constexpr QSize kUsual(1000, 640);
 
 /// A button that stands for an item of the menu, its tick included.
@@ -46,16 +44,12 @@ MainWindow::MainWindow(MainForm& form, EventRunner& runner)
   SetCloseControl(form.esci);
   MakeMenu();
   auto* content = new QWidget;
-  auto* rows = new QVBoxLayout(content);
-  rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  rows->setSpacing(kSpacing);
-  auto* panels = new QHBoxLayout;
+  auto* panels = new QHBoxLayout(content);
+  panels->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing / 2);
   panels->setSpacing(kMargin);
-  panels->addWidget(intake_ = MakeIntake(), 1);
-  panels->addWidget(header_ = MakeHeader(), 2);
+  panels->addWidget(intake_ = MakeIntake());
+  panels->addWidget(header_ = MakeHeader(), 1);
   panels->addWidget(steps_ = MakeSteps(), 0, Qt::AlignCenter);
-  rows->addLayout(panels, 1);
-  rows->addWidget(Make<QPushButton>(form.esci), 0, Qt::AlignRight);
   MakeStatus();
   setMinimumSize(kSmallest);
   resize(kUsual);
@@ -72,26 +66,44 @@ void MainWindow::Refresh() {
 QWidget* MainWindow::MakeIntake() {
   auto* group = new QGroupBox(QStringLiteral("Inserimento dei log"));
   auto* rows = new QVBoxLayout(group);
+  rows->setSpacing(kMargin);
+  rows->addLayout(MakeCommands());
+  rows->addLayout(MakeModes());
+  rows->addLayout(MakeFiles(), 1);
+  group->setFixedWidth(kIntakeWidth);
+  ShowWithAny(*group, {&form_.caricaedi, &form_.Marcafile, &form_.Aggiorna, &form_.Check_AUT_entry,
+                       &form_.Ins_auto, &form_.turbo, &form_.File1, &form_.Text3, &form_.Dir1});
+  return group;
+}
+
+QVBoxLayout* MainWindow::MakeCommands() {
+  auto* rows = new QVBoxLayout;
   rows->setSpacing(kSpacing);
-  rows->addWidget(Make<QPushButton>(form_.caricaedi));
-  rows->addWidget(Make<QPushButton>(form_.Marcafile));
-  rows->addWidget(Make<QPushButton>(form_.Aggiorna));
-  rows->addWidget(Make<QCheckBox>(form_.Check_AUT_entry));
-  rows->addWidget(Make<QCheckBox>(form_.Ins_auto));
-  rows->addWidget(Make<QCheckBox>(form_.turbo));
-  rows->addWidget(MakeText(form_.info_turbo));
+  for (Button* command : {&form_.caricaedi, &form_.Marcafile, &form_.Aggiorna}) {
+    rows->addWidget(Make<QPushButton>(*command));
+  }
   auto* inserted = MakeText(form_.Inserimento_OK);
   inserted->setFont(HeadingFont(0));
   rows->addWidget(inserted);
-  rows->addLayout(MakeFiles(), 1);
-  group->setMinimumWidth(kIntakeWidth);
-  ShowWithAny(*group, {&form_.caricaedi, &form_.Marcafile, &form_.Aggiorna, &form_.Check_AUT_entry,
-                       &form_.Ins_auto, &form_.turbo, &form_.File1, &form_.Text3});
-  return group;
+  return rows;
+}
+
+QVBoxLayout* MainWindow::MakeModes() {
+  auto* rows = new QVBoxLayout;
+  rows->setSpacing(kSpacing);
+  for (Check* mode : {&form_.Check_AUT_entry, &form_.Ins_auto, &form_.turbo}) {
+    rows->addWidget(Make<QCheckBox>(*mode));
+  }
+  auto* hint = MakeText(form_.info_turbo);
+  SetCaption(*hint);
+  rows->addWidget(hint);
+  rows->addWidget(Make<QProgressBar>(form_.Bar1));
+  return rows;
 }
 
 QVBoxLayout* MainWindow::MakeFiles() {
   auto* rows = new QVBoxLayout;
+  rows->setSpacing(kSpacing);
   auto* heading = new QHBoxLayout;
   auto* text = MakeDisplay(form_.Text3);
   text->setFrame(false);
@@ -103,50 +115,16 @@ QVBoxLayout* MainWindow::MakeFiles() {
   count->setFont(HeadingFont(0));
   heading->addWidget(count);
   rows->addLayout(heading);
+  auto* folder = new QHBoxLayout;
+  folder->setSpacing(kSpacing);
+  const Field path = MakePathField(form_.Dir1);
+  SetCaption(*path.caption);
+  folder->addWidget(path.caption);
+  folder->addWidget(path.line, 1);
+  rows->addLayout(folder);
   rows->addWidget(Make<RowView>(form_.File1), 1);
   rows->addStretch(0);
   return rows;
-}
-
-QWidget* MainWindow::MakeHeader() {
-  auto* group = new QGroupBox(QStringLiteral("Testata del log"));
-  auto* rows = new QVBoxLayout(group);
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(kSpacing);
-  grid->setVerticalSpacing(kSpacing);
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
-  const std::vector<TextField*> left = {&form_.NomeContest, &form_.datainizio, &form_.datafine,
-                                        &form_.Callusato,   &form_.locusato,   &form_.categoria,
-                                        &form_.frequenza,   &form_.club,       &form_.operatore,
-                                        &form_.callresp,    &form_.codxc};
-  const std::vector<TextField*> right = {
-      &form_.trasmettitore, &form_.potenza, &form_.antenna,  &form_.altezza,     &form_.QRB,
-      &form_.qsovalidi,     &form_.doppi,   &form_.sommaqrb, &form_.percentuale, &form_.differenza};
-  for (std::size_t i = 0; i < left.size(); ++i) {
-    AddHeaderField(*grid, *left[i], static_cast<int>(i), 0);
-  }
-  for (std::size_t i = 0; i < right.size(); ++i) {
-    AddHeaderField(*grid, *right[i], static_cast<int>(i), 2);
-  }
-  rows->addLayout(grid);
-  auto* marks = new QHBoxLayout;
-  marks->setSpacing(2 * kSpacing);
-  marks->addWidget(Make<QRadioButton>(form_.Rookie));
-  marks->addWidget(Make<QRadioButton>(form_.Young));
-  marks->addWidget(Make<QPushButton>(form_.Command1));
-  marks->addStretch(1);
-  rows->addLayout(marks);
-  rows->addStretch(1);
-  ShowWithAny(*group, {form_.panel().begin(), form_.panel().end()});
-  return group;
-}
-
-void MainWindow::AddHeaderField(QGridLayout& grid, TextField& field, int row, int column) {
-  const Field made = MakeField(field);
-  made.caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  grid.addWidget(made.caption, row, column);
-  grid.addWidget(made.line, row, column + 1);
 }
 
 QWidget* MainWindow::MakeSteps() {
@@ -173,6 +151,7 @@ void MainWindow::MakeStatus() {
   statusBar()->addPermanentWidget(MakeLamp(form_.ExcelOpen));
   statusBar()->addPermanentWidget(Make<QLabel>(form_.Label_excel));
   statusBar()->addPermanentWidget(Make<QLabel>(form_.LBL_VersioneXLS));
+  statusBar()->addPermanentWidget(Make<QPushButton>(form_.esci));
 }
 
 }  // namespace velmar

@@ -3,8 +3,9 @@
 #include "session/main_form.h"
 #include "ui/form_window.h"
 
-class QVBoxLayout;
 class QGridLayout;
+class QHBoxLayout;
+class QVBoxLayout;
 
 namespace velmar {
 
@@ -18,11 +19,33 @@ class MainWindow : public FormWindow {
 
  private:
   QWidget* MakeIntake();
+  QVBoxLayout* MakeCommands();
+  QVBoxLayout* MakeModes();
   QVBoxLayout* MakeFiles();
-  QWidget* MakeHeader();
-  void AddHeaderField(QGridLayout& grid, TextField& field, int row, int column);
   QWidget* MakeSteps();
   void MakeStatus();
+
+  // The header of the log: a row of cells after another, each with its caption above it.
+  struct Cell {
+    QLabel* caption;
+    QWidget* widget;
+    int span;  ///< of the twelve columns of a row
+  };
+  QWidget* MakeHeader();
+  QHBoxLayout* MakeHeadline();
+  QWidget* MakeOwner();
+  QWidget* MakeStation();
+  QWidget* MakeClaims();
+  QWidget* MakeResults();
+  QVBoxLayout* MakeRemarks();
+
+  /// What the remarks decide, with their caption: the operator mark, and the section.
+  QHBoxLayout* MakeMarks(QLabel* caption);
+
+  Cell FieldCell(TextField& field, int span);
+  Cell NewCategoryCell(int span);
+  Cell ResultCell(TextField& field, int span);
+  static void AddRow(QGridLayout& grid, const std::vector<Cell>& cells);
 
   MainForm& form_;
   QWidget* intake_ = nullptr;

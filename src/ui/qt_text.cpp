@@ -36,9 +36,9 @@ QString ToQString(std::string_view bytes) {
   return text;
 }
 
-QString ToShownRow(std::string_view bytes) {
-  QString row = ToQString(bytes.substr(0, kLongestShown));
-  if (bytes.size() > kLongestShown) {
+QString ToShownRow(std::string_view bytes, std::size_t longest) {
+  QString row = ToQString(bytes.substr(0, longest));
+  if (bytes.size() > longest) {
     row += QChar(kEllipsis);
   }
   return row;

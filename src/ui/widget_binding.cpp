@@ -83,8 +83,8 @@ void WidgetBinding::Refresh() {
   }
   draw_();
   widget_.setEnabled(control().enabled);
-  if (widget_.isHidden() == control().visible) {
-    widget_.setVisible(control().visible);
+  if (widget_.isHidden() == Seen()) {
+    widget_.setVisible(Seen());
   }
 }
 

@@ -19,6 +19,9 @@ class WidgetBinding : public QObject, public Binding {
   void Refresh() override;
 
  protected:
+  /// Whether the widget is to be seen.
+  virtual bool Seen() const { return control().visible; }
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

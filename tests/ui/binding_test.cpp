@@ -108,6 +108,23 @@ TEST(ListBinding, RowsThatWentAwayAreNotRead) {
   EXPECT_FALSE(fixture.window.list->model()->index(49, 0).data().isValid());
 }
 
+TEST(ListBinding, CellsStandInColumns) {
+  Fixture fixture;
+  const std::string name(30, 'n');
+  fixture.runner.Run([&] {
+    fixture.form.list.items.Assign({"a.edi\tIK2QAA\t2IT_IK2QAA.edi", "abc.edi\tI2A\tx",
+                                    "una riga senza colonne", name + "\tI2A\tx"});
+  });
+  const QAbstractItemModel& model = *fixture.window.list->model();
+  const auto row = [&](int number) { return model.index(number, 0).data().toString(); };
+  const auto at = [&](int number, const char* cell) { return row(number).indexOf(cell); };
+  EXPECT_EQ(row(2), "una riga senza colonne");
+  EXPECT_EQ(at(0, "IK2QAA"), at(1, "I2A"));
+  EXPECT_EQ(at(0, "2IT_"), at(1, "x"));
+  EXPECT_LT(at(1, "I2A"), 30) << "one long name pushes all columns away";
+  EXPECT_GT(at(3, "I2A"), 30);
+}
+
 TEST(GridBinding, TheFirstRowAndColumnAreHeadings) {
   Fixture fixture;
   fixture.runner.Run([&] {

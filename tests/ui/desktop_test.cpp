@@ -4,7 +4,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -50,6 +53,7 @@ struct StartedFixture : DesktopFixture {
   FormWindow& month_window = Window(program.month_dialog().form());
   FormWindow& config_window = Window(program.config_dialog().form());
   FormWindow& recalculation_window = Window(program.recalculation().form());
+  FormWindow& renaming_window = Window(program.renaming().form());
 };
 
 TEST(Desktop, TheWindowsFollowTheForms) {
@@ -115,6 +119,29 @@ TEST(Desktop, TheRecalculationIsRunFromItsWindow) {
   EXPECT_EQ(window.findChild<QLineEdit*>("Text1")->text(), "1");
   EXPECT_EQ(window.findChild<QProgressBar*>("Bar1")->value(), 2);
   EXPECT_FALSE(ButtonOf(window, "rinomina")->isEnabled());
+  window.close();
+  EXPECT_FALSE(window.isVisible()) << "closing the window leaves the step";
+  EXPECT_TRUE(fixture.main_window.isVisible());
+}
+
+TEST(Desktop, TheRenamingIsRunFromItsWindow) {
+  StartedFixture fixture;
+  fixture.workspace
+      .With("02 Log ricalcolati/ik2qaa.edi",
+            LogText("IK2QAA", "JN45PL", {QsoRow("IZ1ABC", "JN35SC")}))
+      .With("02 Log ricalcolati/altro.edi", "non un log");
+  fixture.Show(fixture.main);
+  fixture.runner.Run([&] { fixture.main.Rinomina_ita.Click(); });
+  FormWindow& window = fixture.renaming_window;
+  ASSERT_TRUE(window.isVisible());
+  ButtonOf(window, "rinomina")->click();
+  EXPECT_EQ(window.findChild<QLabel*>("file_letti")->text(), "1");
+  EXPECT_EQ(window.findChild<QLabel*>("file_nonvalidi")->text(), "1");
+  EXPECT_EQ(window.findChildren<QGroupBox*>().at(1)->title(),
+            QStringLiteral("03 Log da inserire  –  1 file"));
+  auto* set_aside = window.findChild<QListView*>("List2");
+  QTest::mouseClick(set_aside->viewport(), Qt::LeftButton, {}, {5, 5});
+  EXPECT_TRUE(window.findChild<QPlainTextEdit*>("Text2")->toPlainText().startsWith("altro.edi - "));
   window.close();
   EXPECT_FALSE(window.isVisible()) << "closing the window leaves the step";
   EXPECT_TRUE(fixture.main_window.isVisible());

@@ -1,5 +1,6 @@
 #include "ui/event_runner.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
@@ -62,6 +63,28 @@ TEST(EventRunner, InputDuringAnEventIsDropped) {
   EXPECT_EQ(clicks, 0);
   QTest::mouseClick(&button, Qt::LeftButton);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST(EventRunner, EscDuringAnEventIsKeptInMindOnce) {
+  EventRunner runner;
+  QPushButton button("x");
+  button.show();
+  QTest::keyClick(&button, Qt::Key_Escape);
+  runner.Run([&] {
+    EXPECT_FALSE(runner.TakeStopRequest()) << "pressed ahead of the event";
+    QTest::keyClick(&button, Qt::Key_Return);
+    EXPECT_FALSE(runner.TakeStopRequest());
+    QTest::keyClick(&button, Qt::Key_Escape);
+    QTest::keyClick(&button, Qt::Key_Return);
+    EXPECT_TRUE(runner.TakeStopRequest());
+    EXPECT_FALSE(runner.TakeStopRequest());
+    // Pressed, while the work went on without a breath.
+    QCoreApplication::postEvent(&button,
+                                new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+    EXPECT_TRUE(runner.TakeStopRequest());
+    QTest::keyClick(&button, Qt::Key_Escape);
+  });
+  runner.Run([&] { EXPECT_FALSE(runner.TakeStopRequest()) << "meant for the event before"; });
 }
 
 TEST(EventRunner, WindowsLiveOnDuringLongWork) {

@@ -79,6 +79,20 @@ TEST(QtManager, EscapeTakesTheLastWayOut) {
   }
 }
 
+TEST(QtManager, EscapeInABoxDoesNotEndARun) {
+  ManagerFixture fixture;
+  QPushButton button("x");
+  Converse(
+      fixture.runner,
+      [&] {
+        fixture.manager.Show({.lines = {"?"}});
+        EXPECT_FALSE(fixture.manager.StopWanted());
+        QTest::keyClick(&button, Qt::Key_Escape);
+        EXPECT_TRUE(fixture.manager.StopWanted());
+      },
+      Press(Qt::Key_Escape));
+}
+
 TEST(QtManager, AnEndlessRowAndAThousandLinesStayOnTheScreen) {
   ManagerFixture fixture;
   std::vector<std::string> lines(1000, "riga");

@@ -9,6 +9,7 @@
 
 #include "app/program.h"
 #include "intake/recalculation.h"
+#include "intake/renaming.h"
 #include "session/config_dialog.h"
 #include "session/main_form.h"
 #include "session/month_dialog.h"

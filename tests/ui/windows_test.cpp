@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -32,11 +33,13 @@ const WindowCase kWindows[] = {
     {"Main", [](Program& program) -> Form& { return program.main_form(); }},
     {"Month", [](Program& program) -> Form& { return program.month_dialog().form(); }},
     {"Config", [](Program& program) -> Form& { return program.config_dialog().form(); }},
-    {"Recalculation", [](Program& program) -> Form& { return program.recalculation().form(); }}};
+    {"Recalculation", [](Program& program) -> Form& { return program.recalculation().form(); }},
+    {"Renaming", [](Program& program) -> Form& { return program.renaming().form(); }}};
 
 class WindowTest : public testing::TestWithParam<WindowCase> {
  protected:
-  /// Shows the window with all of its controls within reach and without events.
+  /// Shows the window with all of its controls within reach, with something to show, and without
+  /// events.
   WindowTest() {
     fixture.runner.Run([&] {
       for (const auto& control : form.controls()) {
@@ -44,6 +47,9 @@ class WindowTest : public testing::TestWithParam<WindowCase> {
         control->on_click = control->on_change = control->on_double_click = nullptr;
         control->on_key = nullptr;
         control->items.Assign({"prima riga", "seconda riga"});
+        if (control->caption.empty()) {
+          control->caption = "123456";
+        }
       }
       fixture.program.screen().Show(form);
     });
@@ -82,7 +88,8 @@ bool RightKind(const Control& control, QWidget* widget) {
       return qobject_cast<QLabel*>(widget) != nullptr ||
              qobject_cast<QGroupBox*>(widget) != nullptr;
     case ControlKind::kText:
-      return qobject_cast<QLineEdit*>(widget) != nullptr;
+      return qobject_cast<QLineEdit*>(widget) != nullptr ||
+             qobject_cast<QPlainTextEdit*>(widget) != nullptr;
     case ControlKind::kList:
     case ControlKind::kFiles:
       return dynamic_cast<RowView*>(widget) != nullptr;
@@ -105,6 +112,17 @@ std::optional<QString> DrawnCaption(QWidget* widget) {
   }
   if (auto* group = qobject_cast<QGroupBox*>(widget)) {
     return group->title();
+  }
+  return std::nullopt;
+}
+
+/// The text that is drawn in a text field; nothing for widgets of other kinds.
+std::optional<QString> DrawnText(const QWidget* widget) {
+  if (const auto* line = qobject_cast<const QLineEdit*>(widget)) {
+    return line->text();
+  }
+  if (const auto* reader = qobject_cast<const QPlainTextEdit*>(widget)) {
+    return reader->toPlainText();
   }
   return std::nullopt;
 }
@@ -153,9 +171,9 @@ TEST_P(WindowTest, EveryControlReachesItsEvent) {
     control->on_click = [&] { ++events; };
     control->on_change = [&] { ++events; };
     if (control->kind() == ControlKind::kText) {
-      auto* line = WidgetOf<QLineEdit>(*control);
-      QTest::keyClicks(line, "x");
-      EXPECT_EQ(events, line->isReadOnly() ? 0 : 1) << control->name;
+      QWidget* text = WidgetOf(*control);
+      QTest::keyClicks(text, "x");
+      EXPECT_EQ(events, text->property("readOnly").toBool() ? 0 : 1) << control->name;
     } else {
       Use(*control);
       EXPECT_EQ(events, 1) << control->name;
@@ -184,9 +202,7 @@ TEST_P(WindowTest, WhatAnEventChangedIsDrawn) {
       if (const auto caption = DrawnCaption(WidgetOf(*control))) {
         EXPECT_TRUE(caption->endsWith(QStringLiteral("Nuovo è"))) << control->name;
       }
-      if (const auto* line = qobject_cast<const QLineEdit*>(widget)) {
-        EXPECT_EQ(line->text(), "7");
-      }
+      EXPECT_EQ(DrawnText(widget).value_or("7"), "7") << control->name;
       if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
         EXPECT_EQ(button->isChecked(), button->isCheckable()) << control->name;
       }
@@ -216,6 +232,10 @@ TEST_P(WindowTest, TabVisitsEachWidgetOnceInOrder) {
 }
 
 TEST_P(WindowTest, NothingIsCutAtTheSmallestSize) {
+  constexpr QSize kSmallestScreen(1024, 700);
+  constexpr QSize kWindowFrame(10, 32);
+  const QSize with_frame = window.minimumSize() + kWindowFrame;
+  EXPECT_EQ(with_frame.boundedTo(kSmallestScreen), with_frame) << "larger than a small screen";
   window.resize(window.minimumSize());
   QCoreApplication::processEvents();
   for (const BindingPtr& binding : window.bindings()) {
@@ -225,6 +245,9 @@ TEST_P(WindowTest, NothingIsCutAtTheSmallestSize) {
     }
     EXPECT_GE(widget->width(), std::min(widget->minimumSizeHint().width(), widget->maximumWidth()))
         << binding->control().name;
+    if (qobject_cast<const QPlainTextEdit*>(widget) == nullptr) {
+      EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << binding->control().name;
+    }
     EXPECT_TRUE(window.rect().contains(QRect(widget->mapTo(&window, QPoint()), widget->size())))
         << binding->control().name;
   }
