@@ -154,10 +154,6 @@ void Renaming::RenameLogs(const std::vector<std::string>& logs) {
   if (logs.size() > kMostLogs) {
     throw RunTimeError(ErrorNumber::kSubscript, "too many logs");
   }
-  inserted_.clear();
-  for (const std::string& name : files_.List(session_.workspace.to_insert(), "*.*")) {
-    inserted_.emplace(Lower(name), name);
-  }
   for (std::size_t i = 0; i < logs.size(); ++i) {
     Rename(logs[i], i);
     Advance(form_.progress.maximum / 2 + i + 1);
@@ -211,8 +207,8 @@ void Renaming::Insert(const std::string& name, const LogIdentity& log, std::stri
   const std::string prefix = session_.workspace.to_insert() + "/";
   const std::string content = WithSection(text, log.section);
   std::string new_name = FitName(log.new_name);
-  const auto there = inserted_.find(Lower(new_name));
-  if (there != inserted_.end() && files_.ReadAll(prefix + there->second) != content) {
+  const auto there = ReadIfThere(files_, prefix + new_name);
+  if (there && *there != content) {
     ++counters_.repeated;
     new_name = FreeName(files_, Source(name), session_.workspace.to_insert(),
                         Join(kSetAsideMark, name.substr(0, kLongestStem)),
@@ -222,7 +218,6 @@ void Renaming::Insert(const std::string& name, const LogIdentity& log, std::stri
     ++counters_.renamed;  // also where an earlier run, that broke, had written it already
   }
   files_.WriteAll(prefix + new_name, content);
-  inserted_.emplace(Lower(new_name), new_name);
 }
 
 void Renaming::Tell(const std::string& row) {

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -69,9 +68,8 @@ class Renaming {
   RenamingForm form_;
   int step_ = 0;  ///< what the run is at, for the message of a failure
   Counters counters_;
-  std::unordered_set<std::string> names_;        ///< given in this run
-  std::map<std::string, std::string> inserted_;  ///< what lies among the renamed, by small letters
-  std::vector<std::string> copied_;              ///< the logs of the source that lie elsewhere now
+  std::unordered_set<std::string> names_;  ///< given in this run
+  std::vector<std::string> copied_;        ///< the logs of the source that lie elsewhere now
   bool run_made_ = false;
 };
 
