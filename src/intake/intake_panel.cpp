@@ -62,19 +62,23 @@ void IntakePanel::RemoveRowCopies() {
 }
 
 void IntakePanel::Refuse(const IntakeState& log, Refusal refusal) {
-  Move(log, session_.workspace.to_check_again(), NameOfRefused(log, refusal));
+  const RefusedName name = NameOfRefused(log, refusal);
+  const std::string folder = session_.workspace.to_check_again();
+  Move(log, folder + "/" + FreeName(files_, log.log_path, folder, name.stem, name.suffix));
   Clear();
   BecomeIdle();
 }
 
 void IntakePanel::SetAsRepeated(const IntakeState& log) {
-  Move(log, session_.workspace.repeated_logs(), {log.log_name, ""});
+  const std::string folder = session_.workspace.repeated_logs();
+  Move(log, folder + "/" + FreeName(files_, log.log_path, folder, log.log_name));
 }
 
-void IntakePanel::Move(const IntakeState& log, const std::string& folder, const RefusedName& name) {
-  const std::string target = FreeName(files_, log.log_path, folder, name.stem, name.suffix);
-  files_.Copy(log.log_path, folder + "/" + target);
-  RemoveSource(log);
+void IntakePanel::Move(const IntakeState& log, const std::string& target) {
+  if (!SameFile(files_, log.log_path, target)) {
+    files_.Copy(log.log_path, target);
+    RemoveSource(log);
+  }
 }
 
 void IntakePanel::RemoveSource(const IntakeState& log) {
@@ -151,7 +155,7 @@ void IntakePanel::ShowDeclared(const IntakeState& log) {
 
 void IntakePanel::ShowScore(double declared, double total) {
   constexpr std::size_t kQuotientCharacters = 6;
-  const double quotient = Val(Left(Trim(StrReal(declared / total)), kQuotientCharacters));
+  const double quotient = Val(Left(StrReal(declared / total), kQuotientCharacters));
   const double percent = 100 * quotient - 100;
   form_.percentuale.value = Shown(std::round(percent * 100) / 100);
   form_.percentuale.colour = percent < kGoodPercent  ? std::optional(colour::kGreen)

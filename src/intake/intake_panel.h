@@ -59,7 +59,7 @@ class IntakePanel {
 
  private:
   void ListChosenFolder();
-  void Move(const IntakeState& log, const std::string& folder, const RefusedName& name);
+  void Move(const IntakeState& log, const std::string& target);
   void UnlockMenus();
   std::array<Menu*, 5> LockedMenus();
 

@@ -134,11 +134,10 @@ void LogFiling::AppendLibraries() {
   std::vector<std::string> library;
   std::vector<std::string> total;
   for (const ValidatedQso& qso : log_.qsos) {
-    const std::string points = qso.points.empty() ? "0" : qso.points;
-    if (auto row = LibreriaRow(log_.own_call, qso.call, qso.locator, points)) {
+    if (auto row = LibreriaRow(log_.own_call, qso.call, qso.locator, qso.points)) {
       library.push_back(std::move(*row));
     }
-    if (auto row = LibreriaTotaleRow(log_.own_call, qso.call, qso.locator, log_.code, points)) {
+    if (auto row = LibreriaTotaleRow(log_.own_call, qso.call, qso.locator, log_.code, qso.points)) {
       total.push_back(std::move(*row));
     }
   }
@@ -169,9 +168,7 @@ void LogFiling::AppendRows(StoreFile file, const std::vector<std::string>& rows,
 }
 
 void LogFiling::AppendClassification() {
-  const std::string path = session_.workspace.classification(session_.category_month, log_.code);
-  const bool header_owed = !files_.StampOf(path);
-  const std::string row =
+  store_.AppendToClassification(
       ClassificationRow({.call = log_.own_call,
                          .locator = log_.own_locator,
                          .height = log_.height,
@@ -182,9 +179,8 @@ void LogFiling::AppendClassification() {
                          .dx_call = log_.dx_call,
                          .dx_distance = log_.dx_distance,
                          .points = log_.totals.distance,
-                         .operator_mark = static_cast<char>(session_.operator_mark)});
-  files_.Append(
-      path, Join(header_owed ? Join(classification_row::kHeader, kLineEnd) : "", row, kLineEnd));
+                         .operator_mark = static_cast<char>(session_.operator_mark)}),
+      log_.code, session_.category_month);
 }
 
 void LogFiling::RemoveScratch() {
@@ -204,7 +200,7 @@ void LogFiling::RemoveScratch() {
 void LogFiling::MoveLog() {
   step_ = 7;
   const std::string target = session_.workspace.category(log_.code) + "/" + log_.log_name;
-  if (target == log_.log_path) {
+  if (SameFile(files_, target, log_.log_path)) {
     manager_.Show(SamePlaceBox());
     return;
   }

@@ -152,14 +152,15 @@ void QsoValidation::Close(IntakeState& log) {
 void QsoValidation::StartErrorList(const IntakeState& log, double declared) {
   const bool both = log.category == kBothCategories;
   const bool known = both || log.category == kCategory;
-  files_.Append(session_.workspace.error_list(log.code, log.own_call, session_.category_month),
-                ErrorListHeadText({.title = session_.contest_label,
-                                   .month = Upper(session_.category_month),
-                                   .call = log.own_call,
-                                   .locator = log.own_locator,
-                                   .declared = Pad(StrReal(declared), kDeclaredWidth),
-                                   .band = std::string(known ? kBandText : ""),
-                                   .category = both ? std::string(kCategory) : log.category}));
+  store_.AppendToErrorList(
+      log.own_call, log.code, session_.category_month,
+      ErrorListHeadText({.title = session_.contest_label,
+                         .month = Upper(session_.category_month),
+                         .call = log.own_call,
+                         .locator = log.own_locator,
+                         .declared = Pad(StrReal(declared), kDeclaredWidth),
+                         .band = std::string(known ? kBandText : ""),
+                         .category = both ? std::string(kCategory) : log.category}));
 }
 
 void QsoValidation::Fail(IntakeState& log) {

@@ -195,9 +195,7 @@ void Renaming::TellMissingRows(const std::string& name, const LogIdentity& log) 
 
 void Renaming::SetAside(const std::string& name, const std::string& new_name) {
   const std::string folder = session_.workspace.to_check_again();
-  const std::size_t stem = new_name.rfind('.');
-  const std::string target =
-      FreeName(files_, Source(name), folder, new_name.substr(0, stem), new_name.substr(stem));
+  const std::string target = FreeName(files_, Source(name), folder, new_name);
   files_.Copy(Source(name), folder + "/" + target);
   ++counters_.not_valid;
   Tell(Join(name, "\t", target));

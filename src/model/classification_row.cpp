@@ -36,7 +36,7 @@ float ErrorPercentage(int errors, int qsos) {
     throw RunTimeError(ErrorNumber::kDivisionByZero, "a percentage of no QSOs");
   }
   const std::string text = StrReal(100.0 * (100.0 * errors / qsos));
-  return static_cast<float>(std::abs(Val(Left(Trim(text), kQuotientCharacters)) / 100));
+  return static_cast<float>(std::abs(Val(Left(text, kQuotientCharacters)) / 100));
 }
 
 std::string PercentageBlock(float percentage, char operator_mark) {

@@ -46,18 +46,47 @@ static_assert(FollowOneAnother({kCall,
                                 kPoints,
                                 kPercentage}));
 
-/// Where ten blanks mean that the log of this row has not been checked yet. The test takes the last
-/// two columns of the recomputed score in, which are blank in every row.
+// Fields as the readers take them, which is not always as they are written.
+inline constexpr Column kQsoCount{53, 4};
+inline constexpr Column kScore{82, 8};       ///< the recomputed one
+inline constexpr Column kErrArea{92, 13};    ///< all blank: the log has not been checked
+inline constexpr Column kPosition{123, 10};  ///< of the queue; not stored
+inline constexpr Column kDx{66, 11};
+
+/// Where ten blanks in any row mean that the classification is not complete. The test takes the
+/// last two columns of the recomputed score in, which no score of this contest reaches.
 inline constexpr Column kUnchecked{90, 10};
 
 /// The first line of the file. Its labels do not stand over the columns, and are not to be aligned.
+// clang-format off
 inline constexpr std::string_view kHeader =
-    "  Call       Locator Aslm  Antenna             Pwr  Qso Declared ODX        DX    Ricalc.  "
-    "Err "
-    " ErrQRB  P.QRB       %   Y/R   ";
+    "  Call       Locator Aslm  Antenna             Pwr  Qso Declared ODX        DX    "
+    "Ricalc.  Err  ErrQRB  P.QRB       %   Y/R   ";
+// clang-format on
 static_assert(kHeader.size() == 126);
 
 }  // namespace classification_row
+
+/// A row of the classification, read by its columns. It points into the text that it was made from.
+class ClassificaRow {
+ public:
+  explicit ClassificaRow(std::string_view row) : row_(row) {}
+
+  std::string_view Call() const { return RTrim(Cut(row_, classification_row::kCall)); }
+  std::string_view Locator() const { return Cut(row_, classification_row::kLocator); }
+  double QsoCount() const { return Val(Cut(row_, classification_row::kQsoCount)); }
+  double Ricalc() const { return Val(Cut(row_, classification_row::kScore)); }
+  std::string_view ErrArea() const { return Cut(row_, classification_row::kErrArea); }
+  std::string_view Mark() const { return Cut(row_, classification_row::kOperatorMark); }
+  std::string_view Position() const { return Cut(row_, classification_row::kPosition); }
+  std::string_view Odx() const { return Trim(Cut(row_, classification_row::kDx)); }
+
+  /// Whether the log of this row has been checked.
+  bool Checked() const { return !Trim(ErrArea()).empty(); }
+
+ private:
+  std::string_view row_;
+};
 
 /// What a log brings into the classification. Texts are cut or padded to their columns, save the
 /// locator, which stands as long as it is.

@@ -12,50 +12,33 @@ namespace velmar {
 
 namespace {
 
-/// Whether a field, without the blanks behind it, is `text`.
-bool Is(std::string_view row, Column column, std::string_view text) {
-  return RTrim(Cut(row, column)) == text;
-}
-
-/// How the rows of an owner are told in one of the files.
+/// How the rows of an owner are told in a file: by the call in some columns, and in some files by
+/// the category as well.
 struct OwnerKey {
   StoreFile file;
-  bool (*matches)(std::string_view row, std::string_view call, std::string_view category);
+  Column owner;
+  std::optional<Column> category = std::nullopt;
+  bool at_end = false;  ///< the owner is what the row ends with
+
+  bool Matches(std::string_view row, std::string_view call, std::string_view code) const {
+    const std::string_view found = at_end ? Right(row, owner.width) : Cut(row, owner);
+    return RTrim(found) == call && (!category || Cut(row, *category) == code);
+  }
 };
 
-/// The files behind the participants, in the order in which they are rewritten.
-constexpr std::array kBeforeErrorList = {
-    OwnerKey{StoreFile::kPartecipanti,
-             [](std::string_view row, std::string_view call, std::string_view category) {
-               return Is(row, partecipante_row::kCall, call) &&
-                      Cut(row, partecipante_row::kCategory) == category;
-             }},
-    OwnerKey{StoreFile::kLibreria,
-             [](std::string_view row, std::string_view call, std::string_view /*category*/) {
-               return Is(row, libreria_row::kOwner, call);
-             }},
-    OwnerKey{StoreFile::kSommaQso,
-             [](std::string_view row, std::string_view call, std::string_view /*category*/) {
-               return RTrim(Right(row, somma_qso_row::kOwner.width)) == call;
-             }},
-    OwnerKey{StoreFile::kSommaSlx,
-             [](std::string_view row, std::string_view call, std::string_view /*category*/) {
-               return Is(row, somma_slx_row::kOwner, call);
-             }}};
-constexpr std::array kBehindErrorList = {
-    OwnerKey{StoreFile::kLibreriaTotale,
-             [](std::string_view row, std::string_view call, std::string_view category) {
-               return Is(row, libreria_totale_row::kOwner, call) &&
-                      Cut(row, libreria_totale_row::kCategory) == category;
-             }},
-    OwnerKey{StoreFile::kTempi,
-             [](std::string_view row, std::string_view call, std::string_view category) {
-               return Is(row, tempi_row::kCall, call) && Cut(row, tempi_row::kCategory) == category;
-             }},
-    OwnerKey{StoreFile::kModi,
-             [](std::string_view row, std::string_view call, std::string_view /*category*/) {
-               return Is(row, modo_row::kCall, call);
-             }}};
+/// The files in the order in which they are rewritten, behind the classification.
+const std::array kOwnerKeys = {
+    OwnerKey{StoreFile::kPartecipanti, partecipante_row::kCall, partecipante_row::kCategory},
+    OwnerKey{StoreFile::kLibreria, libreria_row::kOwner},
+    OwnerKey{StoreFile::kSommaQso, somma_qso_row::kOwner, std::nullopt, true},
+    OwnerKey{StoreFile::kSommaSlx, somma_slx_row::kOwner},
+    OwnerKey{StoreFile::kLibreriaTotale, libreria_totale_row::kOwner,
+             libreria_totale_row::kCategory},
+    OwnerKey{StoreFile::kTempi, tempi_row::kCall, tempi_row::kCategory},
+    OwnerKey{StoreFile::kModi, modo_row::kCall}};
+
+/// Behind the rewriting of this file the error list is removed.
+constexpr StoreFile kBeforeErrorList = StoreFile::kSommaSlx;
 
 }  // namespace
 
@@ -96,15 +79,30 @@ void ContestStore::Append(StoreFile file, std::string_view category, std::string
   if (index.ends_its_last_line) {
     index.Add(rows);
     index.stamp = files_.StampOf(path);
-  } else {
-    index = {};  // the first of the rows has become one with the last one there: to be read again
-  }
+  }  // else the first of the rows has become one with the last one there: to be read again
 }
 
-std::vector<std::string> ContestStore::Lines(StoreFile file, std::string_view category) {
-  const std::string text = ReadIfThere(files_, workspace_.store_file(file, category)).value_or("");
-  const auto lines = SplitLines(text);
-  return {lines.begin(), lines.end()};
+void ContestStore::AppendToClassification(std::string_view row, std::string_view category,
+                                          std::string_view month) {
+  const std::string path = workspace_.classification(month, category);
+  const std::string header =
+      files_.StampOf(path) ? "" : Join(classification_row::kHeader, kLineEnd);
+  files_.Append(path, Join(header, row, kLineEnd));
+}
+
+void ContestStore::AppendToErrorList(std::string_view call, std::string_view category,
+                                     std::string_view month, std::string_view lines) {
+  files_.Append(workspace_.error_list(category, call, month), lines);
+}
+
+std::optional<std::vector<std::string>> ContestStore::Lines(StoreFile file,
+                                                            std::string_view category) {
+  const auto text = ReadIfThere(files_, workspace_.store_file(file, category));
+  if (!text) {
+    return std::nullopt;
+  }
+  const auto lines = SplitLines(*text);
+  return std::vector<std::string>(lines.begin(), lines.end());
 }
 
 bool ContestStore::ContainsOwner(std::string_view call, std::string_view category) {
@@ -121,38 +119,39 @@ std::size_t ContestStore::LibraryLines(std::string_view category) {
 
 Removal ContestStore::RemoveOwner(std::string_view call, std::string_view category,
                                   std::string_view month) {
-  const std::string name = Join(category, "_", FiledName(call), ".edi");
-  const std::string filed = Join(workspace_.category(category), "/", name);
-  const std::string waiting = workspace_.to_insert();
-  files_.Copy(filed, waiting + "/" + FreeName(files_, filed, waiting, name, ""));
-  files_.Remove(filed);
+  MoveBack(Join(category, "_", FiledName(call), ".edi"), category);
   Removal removal;
   if (category == kCategory) {
-    removal.missing = RemoveRows(RTrim(call), category, month);
+    RemoveRows(RTrim(call), category, month, removal);
     removal.rewritten = true;
   }
   return removal;
 }
 
-std::vector<StoreFile> ContestStore::RemoveRows(std::string_view call, std::string_view category,
-                                                std::string_view month) {
-  std::vector<StoreFile> missing;
-  const auto rewrite = [&](const OwnerKey& key) {
+void ContestStore::MoveBack(const std::string& name, std::string_view category) {
+  const std::string filed = Join(workspace_.category(category), "/", name);
+  const std::string waiting = workspace_.to_insert();
+  if (!files_.StampOf(filed) && files_.StampOf(waiting + "/" + name)) {
+    return;
+  }
+  files_.Copy(filed, waiting + "/" + FreeName(files_, filed, waiting, name));
+  files_.Remove(filed);
+}
+
+void ContestStore::RemoveRows(std::string_view call, std::string_view category,
+                              std::string_view month, Removal& removal) {
+  removal.classification_missing =
+      !RewriteWithout(workspace_.classification(month, category),
+                      [&](std::string_view row) { return ClassificaRow(row).Call() == call; });
+  for (const OwnerKey& key : kOwnerKeys) {
     if (!RewriteWithout(workspace_.store_file(key.file, category),
-                        [&](std::string_view row) { return key.matches(row, call, category); })) {
-      missing.push_back(key.file);
+                        [&](std::string_view row) { return key.Matches(row, call, category); })) {
+      removal.missing.push_back(key.file);
     }
-  };
-  RewriteWithout(workspace_.classification(month, category),
-                 [&](std::string_view row) { return Is(row, classification_row::kCall, call); });
-  for (const OwnerKey& key : kBeforeErrorList) {
-    rewrite(key);
+    if (key.file == kBeforeErrorList) {
+      RemoveIfThere(files_, workspace_.error_list(category, call, month));
+    }
   }
-  RemoveIfThere(files_, workspace_.error_list(category, call, month));
-  for (const OwnerKey& key : kBehindErrorList) {
-    rewrite(key);
-  }
-  return missing;
 }
 
 bool ContestStore::RewriteWithout(const std::string& path,

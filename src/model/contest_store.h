@@ -16,7 +16,8 @@ namespace velmar {
 
 /// What a removal did.
 struct Removal {
-  bool rewritten = false;          ///< no: the category has no classification of its own
+  bool rewritten = false;  ///< no: the category has no classification of its own
+  bool classification_missing = false;
   std::vector<StoreFile> missing;  ///< files that should have been there
 };
 
@@ -34,8 +35,16 @@ class ContestStore {
   /// Adds rows, each with its line end, to a file; makes the file if need be.
   void Append(StoreFile file, std::string_view category, std::string_view rows);
 
-  /// The lines of a file; none where it is missing.
-  std::vector<std::string> Lines(StoreFile file, std::string_view category);
+  /// Adds a row to the classification of a month, under its header.
+  void AppendToClassification(std::string_view row, std::string_view category,
+                              std::string_view month);
+
+  /// Adds lines, with their line ends, to the error list of a log.
+  void AppendToErrorList(std::string_view call, std::string_view category, std::string_view month,
+                         std::string_view lines);
+
+  /// The lines of a file; nothing where it is missing.
+  std::optional<std::vector<std::string>> Lines(StoreFile file, std::string_view category);
 
   /// Whether the library holds a row of this owner. A missing library holds none; one of more lines
   /// than it may have raises error 9.
@@ -45,12 +54,15 @@ class ContestStore {
   std::size_t LibraryLines(std::string_view category = kCategory);
 
   /// Takes a log out of the contest: it goes back among those to be inserted, and its rows go out
-  /// of every file, each rewritten in its turn. The call is that of a classification row. The rows
-  /// of the DX statistics, of the control logs and of the CW lists stay.
+  /// of every file, each rewritten in its turn; its error list goes behind the sums. The call is
+  /// that of a classification row. The rows of the DX statistics, of the control logs and of the CW
+  /// lists stay. A removal that broke off can be done again: a log that waits already is not looked
+  /// for.
   Removal RemoveOwner(std::string_view call, std::string_view category, std::string_view month);
 
  private:
-  /// What the library of a category holds, as long as its file stays the same.
+  /// What the library of a category holds, as long as its file stays the same: a change that leaves
+  /// size, time and identity as they were is not seen.
   struct LibraryIndex {
     std::optional<FileStamp> stamp;
     std::size_t lines = 0;
@@ -61,10 +73,11 @@ class ContestStore {
   };
 
   LibraryIndex& Library(std::string_view category);
+  void MoveBack(const std::string& name, std::string_view category);
   bool RewriteWithout(const std::string& path,
                       const std::function<bool(std::string_view line)>& leave_out);
-  std::vector<StoreFile> RemoveRows(std::string_view call, std::string_view category,
-                                    std::string_view month);
+  void RemoveRows(std::string_view call, std::string_view category, std::string_view month,
+                  Removal& removal);
 
   FileSystem& files_;
   const Workspace& workspace_;

@@ -19,7 +19,7 @@ PrintLine& PrintLine::Number(long long number) {
 }
 
 PrintLine& PrintLine::Tab(std::size_t column) {
-  line_.resize(std::max(line_.size(), column - 1), ' ');
+  line_.resize(std::max(line_.size(), column - std::min<std::size_t>(column, 1)), ' ');
   return *this;
 }
 

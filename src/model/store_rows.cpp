@@ -10,6 +10,11 @@ constexpr std::size_t kCwSectionWidth = 4;
 constexpr std::size_t kCwLocatorWidth = 8;
 constexpr std::size_t kDxDistanceWidth = 5;
 
+/// Points as the log claims them, which it may have left out.
+std::string_view PointsOrNone(std::string_view points) {
+  return points.empty() ? "0" : points;
+}
+
 /// A text and a count in a field of a fixed width.
 std::string Counted(std::string_view text, int count, Column column) {
   return Pad(Join(text, Str(count)), column.width);
@@ -23,7 +28,8 @@ std::string Counted(int count, Column column) {
 
 std::optional<std::string> LibreriaRow(std::string_view owner, std::string_view call,
                                        std::string_view locator, std::string_view points) {
-  std::string row = Join(Call12(owner), Call12(call), Upper(RTrim(locator)), " ", points);
+  std::string row =
+      Join(Call12(owner), Call12(call), Upper(RTrim(locator)), " ", PointsOrNone(points));
   return row.size() < libreria_row::kShortest ? std::nullopt : std::optional(std::move(row));
 }
 
@@ -33,7 +39,7 @@ std::optional<std::string> LibreriaTotaleRow(std::string_view owner, std::string
   const std::string measured = Join(Call12(owner), Call12(call), Upper(RTrim(locator)));
   return measured.size() < libreria_totale_row::kShortest
              ? std::nullopt
-             : std::optional(Join(measured, " ", category, " ", points));
+             : std::optional(Join(measured, " ", category, " ", PointsOrNone(points)));
 }
 
 std::string SommaSlxRow(std::string_view owner, std::string_view qso) {

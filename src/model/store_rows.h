@@ -10,8 +10,8 @@
 namespace velmar {
 
 /// The rows of the store files: their columns, for those who read, and the functions that make
-/// them, without a line end. A call that is handed over is put in capitals and cut or padded to 12,
-/// an owner's locator put in capitals and cut to 6.
+/// them, without a line end. Where a call has its own columns, it is put in capitals and cut or
+/// padded to 12, and the owner's locator is put in capitals and cut to 6. Empty points become "0".
 
 /// The band code of the contest's category, as the rows have it.
 inline constexpr std::string_view kBandCode = "144M";

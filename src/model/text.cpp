@@ -1,5 +1,6 @@
 #include "model/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -78,6 +79,7 @@ std::string StrReal(double number, int digits) {
   }
   std::string signed_text = number < 0 ? "-" : " ";
   signed_text += text;
+  std::ranges::replace(signed_text, 'e', 'E');
   return signed_text;
 }
 

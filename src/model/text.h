@@ -62,7 +62,7 @@ std::string Pad(std::string_view text, std::size_t width);
 std::string Str(long long number);
 
 /// The same for a number that may have a fraction, with at most `digits` of them (7 for a number in
-/// single precision) and without a zero ahead of the point: " 1.5", " .5".
+/// single precision) and without a zero ahead of the point: " 1.5", " .5", " 1E-05".
 std::string StrReal(double number, int digits = 15);
 
 /// The number that stands at the start of a text, behind blanks: a sign, digits and a decimal

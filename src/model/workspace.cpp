@@ -31,7 +31,7 @@ std::string Workspace::error_list(std::string_view code, std::string_view call,
 }
 
 std::string NameOfCall(std::string_view call) {
-  return Replaced(RTrim(call), '/', '_');
+  return Replaced(Trim(call), '/', '_');
 }
 
 }  // namespace velmar

@@ -36,7 +36,7 @@ enum class StoreFile {
 std::string NameOfCall(std::string_view call);
 
 /// The folders and files of the program, by their fixed names: blanks and capitals belong to them.
-/// Every file name that the system uses is made here.
+/// What a log is called on its way is told where it is named or refused.
 class Workspace {
  public:
   /// `base` is the folder of the program itself.

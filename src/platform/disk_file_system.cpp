@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 #include "platform/ansi.h"
@@ -130,18 +131,6 @@ class OpenFile {
 
   void MindProtection() { velmar::MindProtection(Status(), path_); }
 
-  /// Writes behind what is there; a failure takes back what it had written.
-  void Append(std::string_view bytes) {
-    const off_t size = Status().st_size;
-    try {
-      Write(bytes);
-    } catch (const RunTimeError&) {
-      // Where even that fails, the first failure is the one to be told.
-      static_cast<void>(ftruncate(descriptor_, size) == 0);
-      throw;
-    }
-  }
-
   void Write(std::string_view bytes) {
     while (!bytes.empty()) {
       const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
@@ -197,6 +186,13 @@ void Replace(const std::string& path, std::string_view bytes) {
   }
 }
 
+/// Gives a file back the size that it had, or removes one that was not there. Where even that
+/// fails, the failure that led here is the one to be told.
+void TakeBack(const std::string& path, std::optional<off_t> size) {
+  const int result = size ? truncate(path.c_str(), *size) : unlink(path.c_str());
+  static_cast<void>(result);
+}
+
 }  // namespace
 
 DiskFileSystem::DiskFileSystem() {
@@ -218,9 +214,16 @@ bool DiskFileSystem::FolderExists(const std::string& path) {
 }
 
 std::optional<FileStamp> DiskFileSystem::StampOf(const std::string& path) {
+  const std::string disk_path = OnDisk(path);
   struct stat status {};
-  if (stat(OnDisk(path).c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
-    return std::nullopt;
+  if (stat(disk_path.c_str(), &status) != 0) {
+    if (errno == ENOENT || errno == ENOTDIR) {
+      return std::nullopt;
+    }
+    Fail(errno, disk_path);
+  }
+  if (S_ISDIR(status.st_mode)) {
+    Fail(EISDIR, disk_path);
   }
   constexpr std::int64_t kSecond = 1'000'000'000;
   return FileStamp{static_cast<std::uint64_t>(status.st_size),
@@ -237,10 +240,18 @@ void DiskFileSystem::WriteAll(const std::string& path, std::string_view bytes) {
 }
 
 void DiskFileSystem::Append(const std::string& path, std::string_view bytes) {
-  OpenFile file(OnDisk(path), O_WRONLY | O_CREAT | O_APPEND);
+  const std::string disk_path = OnDisk(path);
+  struct stat before {};
+  const bool there = stat(disk_path.c_str(), &before) == 0;
+  OpenFile file(disk_path, O_WRONLY | O_CREAT | O_APPEND);
   file.MindProtection();
-  file.Append(bytes);
-  file.Close();
+  try {
+    file.Write(bytes);
+    file.Close();
+  } catch (const RunTimeError&) {
+    TakeBack(disk_path, there ? std::optional(before.st_size) : std::nullopt);
+    throw;
+  }
 }
 
 std::vector<std::string> DiskFileSystem::List(const std::string& folder, std::string_view pattern) {

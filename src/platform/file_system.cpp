@@ -90,6 +90,17 @@ std::string FreeName(FileSystem& files, const std::string& source, const std::st
   }
 }
 
+std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
+                     const std::string& name) {
+  const std::size_t dot = std::min(name.rfind('.'), name.size());
+  return FreeName(files, source, folder, name.substr(0, dot), name.substr(dot));
+}
+
+bool SameFile(FileSystem& files, const std::string& left, const std::string& right) {
+  const auto stamp = files.StampOf(left);
+  return stamp && stamp == files.StampOf(right);
+}
+
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern) {
   const std::string prefix = folder + "/";
   for (const std::string& name : files.List(folder, pattern)) {

@@ -83,6 +83,13 @@ std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& pat
 std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
                      const std::string& name, const std::string& ending);
 
+/// The same for a name whose ending is what its last dot begins.
+std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
+                     const std::string& name);
+
+/// Whether two paths lead to one file.
+bool SameFile(FileSystem& files, const std::string& left, const std::string& right);
+
 /// Removes every file of `folder` that fits `pattern`; none at all is no error.
 void RemoveMatching(FileSystem& files, const std::string& folder, std::string_view pattern);
 

@@ -101,6 +101,30 @@ TEST(Text, FieldsHaveTheirWidth) {
   EXPECT_EQ(Loc6("jn45"), "JN45");
 }
 
+TEST(Text, ANumberWithAFractionHasNoZeroAheadOfItsPoint) {
+  const struct {
+    double number;
+    const char* text;
+  } cases[] = {{0, " 0"},
+               {-0.0, " 0"},
+               {0.5, " .5"},
+               {-0.5, "-.5"},
+               {1.5, " 1.5"},
+               {-12, "-12"},
+               {500, " 500"},
+               {0.05, " .05"},
+               {1.0 / 3, " .333333333333333"},
+               {2.0 / 3, " .666666666666667"},
+               {21344, " 21344"},
+               {123456789012345, " 123456789012345"}};
+  for (const auto& [number, text] : cases) {
+    EXPECT_EQ(StrReal(number), text);
+  }
+  EXPECT_EQ(StrReal(99.99F, 7), " 99.99");
+  EXPECT_EQ(StrReal(0.1F, 7), " .1");
+  EXPECT_EQ(StrReal(9999999, 7), " 9999999");
+}
+
 TEST(Text, WithoutBlanksReplacedAndJoined) {
   EXPECT_EQ(WithoutBlanks(" IK 2\tQAA  "), "IK2\tQAA");
   EXPECT_EQ(Replaced("IV3/IK2QAA/P", '/', '_'), "IV3_IK2QAA_P");

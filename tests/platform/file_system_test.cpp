@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -42,6 +43,13 @@ void WithLimit(__rlimit_resource which, rlim_t limit, const Step& step) {
   setrlimit(which, &narrow);
   step();
   setrlimit(which, &former);
+}
+
+/// Runs a step that is to fail as soon as a file has 4096 bytes.
+void WithFullFiles(const Step& step) {
+  auto* const former = std::signal(SIGXFSZ, SIG_IGN);
+  WithLimit(RLIMIT_FSIZE, 4096, [&] { ExpectError(ErrorNumber::kDeviceError, step); });
+  std::signal(SIGXFSZ, former);
 }
 
 /// A workspace with a file, a folder and a file in that folder.
@@ -142,15 +150,60 @@ TEST_F(DiskFileSystemTest, AFullDiskAndTooManyOpenFilesAreTold) {
 }
 
 TEST_F(DiskFileSystemTest, ARewriteThatBreaksOffLeavesTheOldFileAndNoOther) {
-  auto* const former = std::signal(SIGXFSZ, SIG_IGN);
-  WithLimit(RLIMIT_FSIZE, 4096, [&] {
-    for (const char* name : {"file", "new"}) {
-      ExpectError(ErrorNumber::kDeviceError,
-                  [&] { files.WriteAll(At(name), std::string(10000, 'x')); });
-    }
-  });
-  std::signal(SIGXFSZ, former);
+  for (const char* name : {"file", "new"}) {
+    WithFullFiles([&] { files.WriteAll(At(name), std::string(10000, 'x')); });
+  }
   EXPECT_EQ(workspace.Everything(), before);
+}
+
+TEST_F(DiskFileSystemTest, AnAppendThatBreaksOffTakesBackWhatItWrote) {
+  WithFullFiles([&] { files.Append(At("file"), std::string(10000, 'x')); });
+  EXPECT_EQ(workspace.Everything(), before);
+}
+
+TEST_F(DiskFileSystemTest, AnAppendThatBreaksOffMakesNoFile) {
+  WithFullFiles([&] { files.Append(At("new"), std::string(10000, 'x')); });
+  EXPECT_EQ(workspace.Everything(), before);
+}
+
+TEST_F(DiskFileSystemTest, AStampTellsEachStateOfAFileFromTheOthers) {
+  EXPECT_EQ(files.StampOf(At("no")), std::nullopt);
+  EXPECT_EQ(files.StampOf(At("no/a")), std::nullopt);
+  EXPECT_THROW(files.StampOf(At("folder")), RunTimeError);
+  const auto first = files.StampOf(At("file"));
+  ASSERT_TRUE(first);
+  EXPECT_EQ(first->size, 3U);
+  EXPECT_EQ(files.StampOf(At("file")), first);
+  const auto time = fs::last_write_time(At("file"));
+  const std::vector<Step> changes = {[&] { files.Append(At("file"), "er"); },
+                                     [&] {
+                                       std::ofstream(At("file")) << "new";
+                                       fs::last_write_time(At("file"),
+                                                           time + std::chrono::nanoseconds(1));
+                                     },
+                                     [&] {
+                                       workspace.With("file", "new");
+                                       fs::last_write_time(At("file"), time);
+                                     }};
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    changes[i]();
+    EXPECT_NE(files.StampOf(At("file")), first) << i;
+  }
+}
+
+TEST_F(DiskFileSystemTest, AFreeNameIsOneThatHidesNoOtherContent) {
+  const auto free_name = [&] { return FreeName(files, At("file"), At("folder"), "a.b", ".edi"); };
+  const std::pair<const char*, const char*> cases[] = {
+      {"a.b.edi", "a.b (2).edi"}, {"a.b (2).edi", "a.b (3).edi"}, {"a.b (3).edi", "a.b (4).edi"}};
+  EXPECT_EQ(free_name(), "a.b.edi");
+  for (const auto& [taken, next] : cases) {
+    workspace.With(std::string("folder/") + taken, "new");
+    EXPECT_EQ(free_name(), next);
+  }
+  workspace.With("folder/a.b (2).edi", "old");
+  EXPECT_EQ(free_name(), "a.b (2).edi");
+  ExpectError(ErrorNumber::kPathNotFound,
+              [&] { FreeName(files, At("file"), At("no"), "a", ".edi"); });
 }
 
 TEST_F(DiskFileSystemTest, BytesComeBackAsTheyWent) {
