@@ -25,7 +25,7 @@ std::string Values(const IntakeState& log, std::size_t first, std::size_t count)
 
 std::string Parts(const IntakeState& log, std::size_t row) {
   const auto parts = ThreeParts(log, row);
-  return parts ? Join(parts->at(0), "  ", parts->at(1), "  ", parts->at(2)) : "";
+  return parts ? Join(parts->at(0), " ", parts->at(1), " ", parts->at(2)) : "";
 }
 
 /// A number as a person writes it, with a zero ahead of the point.
