@@ -5,14 +5,13 @@
 
 #include "intake/intake_state.h"
 #include "intake/log_header.h"
-#include "intake/qso_pass.h"
 #include "platform/manager.h"
 
 namespace velmar {
 
-/// The boxes of the third step. A value stands on the line of the text that introduces it.
+/// The boxes of reading a log. A value stands on the line of the text that introduces it.
 
-// Reading a log.
+// Its file and its header.
 Box NoLogsBox();
 Box NoMonthBox();
 Box UnfinishedNameBox();
@@ -44,20 +43,6 @@ Box CountsDifferBox(const IntakeState& log);
 Box OtherCategoryBox(const IntakeState& log);
 Box LogTroubleBox();
 Box NoFileBox();
-
-// The pass over the rows.
-Box NoRowsBox();
-Box ProblemBox(const IntakeState& log, const QsoProblem& problem);
-Box RowCountBox(const IntakeState& log);
-Box PassFailedBox();
-
-// Filing.
-Box NoSectionBox();
-Box TimesFileBox();
-Box NeedsCategoryBox();
-Box LibraryRowBox(std::string_view row);
-Box TotalLibraryRowBox(std::string_view row, std::string_view call);
-Box SamePlaceBox();
 
 /// That the own locator is none; the program ends behind it. The text has a blank at its end where
 /// the header is read, and none where the rows are.

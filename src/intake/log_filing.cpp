@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "intake/insertion_messages.h"
+#include "intake/pass_messages.h"
 #include "intake/qso_validation.h"
 #include "model/classification_row.h"
 #include "model/lines.h"

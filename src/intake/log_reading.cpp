@@ -21,17 +21,6 @@ constexpr std::string_view kNameEnds = ".-_";
 constexpr std::string_view kMark =
     edi::kRecalculated.substr(6, 20);  ///< at column 7 of the last row
 constexpr std::size_t kMostMarkedLines = 1000;
-constexpr std::string_view kEveryCategory = "UNICA";
-constexpr std::string_view kBothCategories = "UNI";
-constexpr std::string_view kTestCategory = "3IT";
-
-/// Whether logs of a category and a band are admitted to the contest.
-bool Admitted(const IntakeState& log, bool test_run) {
-  const bool category = log.category == kCategory || log.category == kBothCategories ||
-                        log.category == kEveryCategory ||
-                        (test_run && log.category == kTestCategory);
-  return category && (log.frequency == 144 || log.frequency == 145);
-}
 
 /// Whether a log went through the recalculation. One of too many lines raises error 9.
 bool IsMarked(std::string_view log) {
@@ -73,6 +62,7 @@ LogReading::LogReading(ContestSession& session, FileSystem& files, Manager& mana
       filing_(filing),
       log_(log),
       validation_(session, files, manager, store, panel, form),
+      category_(files, manager, panel, form),
       last_folder_(session.workspace.to_insert()) {}
 
 void LogReading::caricaedi_Click() {
@@ -288,37 +278,15 @@ void LogReading::WarnOfRows() {
 }
 
 bool LogReading::CategoryFits() {
-  const bool admitted = Admitted(log_, form_.Testlog.checked);
-  if (!admitted || (log_.category != kCategory && log_.category != kEveryCategory)) {
-    return AskForCategory(admitted);
-  }
-  log_.band_code = kBandCode;
-  form_.newcate.value = kCategory;
-  return true;
-}
-
-bool LogReading::AskForCategory(bool admitted) {
-  if (Upper(log_.category) == "CONTROLL LOG") {
-    manager_.Show(ControlLogBox());
-    return false;
-  }
-  for (Control* field : std::initializer_list<Control*>{&form_.frequenza, &form_.categoria}) {
-    if (field->value.empty()) {
-      field->colour = colour::kRed;
-    }
-  }
-  manager_.Show(WrongCategoryBox());
-  if (!admitted) {
-    manager_.Show(CorrectCategoryBox());
-    if (manager_.Show(CategoryQuestion()) != Reply::kYes) {
+  switch (category_.Test(log_)) {
+    case CategoryChoice::Verdict::kFits:
+      return true;
+    case CategoryChoice::Verdict::kRefused:
       Refuse(Refusal::kCategory);
       return false;
-    }
+    default:
+      return false;
   }
-  log_.needs_category = true;
-  panel_.AwaitCategory();
-  manager_.Show(UpdateCategoryBox());
-  return false;
 }
 
 bool LogReading::CountsFit() {
@@ -414,35 +382,7 @@ void LogReading::RefuseAndTell(Refusal refusal, const Box& box) {
 }
 
 void LogReading::Aggiorna_Click() {
-  Trap([&] {
-    log_.category = form_.newcate.value;
-    if (log_.category == kCategory || log_.category == kEveryCategory || log_.category.empty()) {
-      log_.band_code = kBandCode;
-    }
-    const std::string text = files_.ReadAll(log_.log_path);
-    std::string changed;
-    LineReader reader(text);
-    for (std::string_view line; reader.Next(line);) {
-      const std::string capitals = Upper(line);
-      if (Holds(capitals, "PSECT=")) {
-        changed += Join("PSect=", log_.category, kLineEnd);
-      } else if (Holds(capitals, "PBAND=")) {
-        changed += Join("PBand=", log_.band_code, kLineEnd);
-      } else if (!line.empty()) {
-        changed += Join(line, kLineEnd);
-      }
-    }
-    files_.WriteAll(log_.log_path, changed);
-    form_.nome_sez.caption.clear();
-    form_.cod_sez.caption.clear();
-    for (Control* field :
-         std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
-      field->colour = colour::kGreen;
-    }
-    log_.needs_category = false;
-    form_.caricaedi.visible = true;
-    form_.Marcafile.visible = false;
-  });
+  Trap([&] { category_.Update(log_); });
 }
 
 void LogReading::Dir1_Change() {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "intake/category_choice.h"
 #include "intake/intake_panel.h"
 #include "intake/intake_state.h"
 #include "intake/log_filing.h"
@@ -48,7 +49,6 @@ class LogReading {
   bool TakeHeader();
   bool LocatorFits();
   bool CategoryFits();
-  bool AskForCategory(bool admitted);
   bool CountsFit();
   bool RowsFit();
   bool LastChecksPass();
@@ -71,6 +71,7 @@ class LogReading {
   LogFiling& filing_;
   IntakeState& log_;
   QsoValidation validation_;
+  CategoryChoice category_;
   std::string last_folder_;   ///< where the file dialog opens
   std::size_t at_start_ = 0;  ///< logs that waited when the run began
   bool gone_ = false;         ///< the log has left the folder

@@ -2,6 +2,7 @@
 
 #include "intake/insertion_messages.h"
 #include "intake/log_header.h"
+#include "intake/pass_messages.h"
 #include "model/edi_log.h"
 #include "model/error_list.h"
 #include "model/lines.h"

@@ -1,0 +1,90 @@
+#include "intake/category_choice.h"
+
+#include "intake/insertion_messages.h"
+#include "model/lines.h"
+#include "model/store_rows.h"
+#include "model/text.h"
+#include "model/workspace.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::string_view kEveryCategory = "UNICA";
+constexpr std::string_view kBothCategories = "UNI";
+constexpr std::string_view kTestCategory = "3IT";
+
+/// Whether logs of a category and a band are admitted to the contest.
+bool Admitted(const IntakeState& log, bool test_run) {
+  const bool category = log.category == kCategory || log.category == kBothCategories ||
+                        log.category == kEveryCategory ||
+                        (test_run && log.category == kTestCategory);
+  return category && (log.frequency == 144 || log.frequency == 145);
+}
+
+}  // namespace
+
+CategoryChoice::Verdict CategoryChoice::Test(IntakeState& log) {
+  const bool admitted = Admitted(log, form_.Testlog.checked);
+  if (!admitted || (log.category != kCategory && log.category != kEveryCategory)) {
+    return Ask(log, admitted);
+  }
+  log.band_code = kBandCode;
+  form_.newcate.value = kCategory;
+  return Verdict::kFits;
+}
+
+CategoryChoice::Verdict CategoryChoice::Ask(IntakeState& log, bool admitted) {
+  if (Upper(log.category) == "CONTROLL LOG") {
+    manager_.Show(ControlLogBox());
+    return Verdict::kStays;
+  }
+  for (Control* field : std::initializer_list<Control*>{&form_.frequenza, &form_.categoria}) {
+    if (field->value.empty()) {
+      field->colour = colour::kRed;
+    }
+  }
+  manager_.Show(WrongCategoryBox());
+  if (!admitted) {
+    manager_.Show(CorrectCategoryBox());
+    if (manager_.Show(CategoryQuestion()) != Reply::kYes) {
+      return Verdict::kRefused;
+    }
+  }
+  log.needs_category = true;
+  panel_.AwaitCategory();
+  manager_.Show(UpdateCategoryBox());
+  return Verdict::kStays;
+}
+
+void CategoryChoice::Update(IntakeState& log) {
+  log.category = form_.newcate.value;
+  if (log.category == kCategory || log.category == kEveryCategory || log.category.empty()) {
+    log.band_code = kBandCode;
+  }
+  const std::string text = files_.ReadAll(log.log_path);
+  std::string changed;
+  LineReader reader(text);
+  for (std::string_view line; reader.Next(line);) {
+    const std::string capitals = Upper(line);
+    if (Holds(capitals, "PSECT=")) {
+      changed += Join("PSect=", log.category, kLineEnd);
+    } else if (Holds(capitals, "PBAND=") && !log.band_code.empty()) {
+      changed += Join("PBand=", log.band_code, kLineEnd);
+    } else if (!line.empty()) {
+      changed += Join(line, kLineEnd);
+    }
+  }
+  files_.WriteAll(log.log_path, changed);
+  form_.nome_sez.caption.clear();
+  form_.cod_sez.caption.clear();
+  for (Control* field :
+       std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
+    field->colour = colour::kGreen;
+  }
+  log.needs_category = false;
+  form_.caricaedi.visible = true;
+  form_.Marcafile.visible = false;
+}
+
+}  // namespace velmar
