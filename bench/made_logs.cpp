@@ -1,11 +1,15 @@
 #include "made_logs.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string_view>
+#include <vector>
 
 #include "model/lines.h"
 #include "model/text.h"
+#include "platform/disk_file_system.h"
 
 namespace velmar::bench {
 
@@ -17,6 +21,10 @@ static_assert(kMadeStations == kPrefixes.size() * 10 * kLetters * kLetters);
 
 /// Has no divisor in common with the number of stations, so that a log meets none of them twice.
 constexpr std::size_t kStep = 7;
+
+constexpr std::size_t kClaimed = 99;  ///< km, of each QSO
+constexpr std::size_t kContestStart = 1000;
+constexpr std::size_t kContestMinutes = 60;
 
 /// A number that looks drawn by chance, of which every bit hangs on every bit of `number`.
 std::uint64_t Scrambled(std::uint64_t number) {
@@ -42,12 +50,58 @@ std::string ThreeDigits(std::size_t number) {
   return digits.size() < 3 ? std::string(3 - digits.size(), '0') + digits : digits;
 }
 
+/// The station of a log's QSO.
+std::size_t Worked(std::size_t station, std::size_t number) {
+  return (station + kStep * number) % kMadeStations;
+}
+
+/// All rows that are read by their number.
+std::vector<std::string> MadeHeader(std::size_t station, std::size_t qsos) {
+  const std::string call = MadeCall(station);
+  const std::size_t dx = Worked(station, 1);
+  return {"[REG1TEST;1]",
+          "TName=Contest Velmar",
+          "TDate=20250119;20250119",
+          Join("PCall=", call),
+          Join("PWWLo=", MadeLocator(station)),
+          "PExch=",
+          "PAdr1=",
+          "PAdr2=",
+          "PSect=2IT",
+          "PBand=144 MHz",
+          "PClub=",
+          "RName=",
+          Join("RCall=", call),
+          "RAdr1=",
+          "RAdr2=",
+          "RPoCo=",
+          "RCity=",
+          "RCoun=",
+          "RPhon=",
+          "RHBBS=",
+          "MOpe1=",
+          "MOpe2=",
+          "STXEq=",
+          "SPowe=50",
+          "SRXEq=",
+          "SAnte=9 el",
+          "SAntH=10;350",
+          Join("CQSOs=", qsos, ";1"),
+          Join("CQSOP=", kClaimed * qsos),
+          "CWWLs=0;0;1",
+          "CWWLB=0",
+          "CExcs=0;0;1",
+          "CExcB=0",
+          "CDXCs=0;0;1",
+          "CDXCB=0",
+          Join("CToSc=", kClaimed * qsos),
+          Join("CODXC=", MadeCall(dx), ";", MadeLocator(dx), ";", kClaimed)};
+}
+
 std::string MadeQso(std::size_t station, std::size_t number) {
-  const std::size_t minute = number % 360;
-  const std::string time = ThreeDigits(700 + minute / 60 * 100 + minute % 60);
-  return Join("250119;", time.size() < 4 ? "0" : "", time, ";", MadeCall(station), ";1;59;",
+  return Join("250119;", kContestStart + number % kContestMinutes, ";", MadeCall(station), ";1;59;",
               ThreeDigits(number), ";59;", ThreeDigits(1 + Scrambled(station) % 400), ";;",
-              MadeLocator(station), ";99;;N;;");
+              MadeLocator(station), ";", kClaimed, ";;N;;");
 }
 
 }  // namespace
@@ -73,36 +127,24 @@ std::string MadeLocator(std::size_t station) {
 }
 
 std::string MadeLog(std::size_t station, std::size_t qsos) {
-  const std::string call = MadeCall(station);
   std::string log;
   const auto add = [&log](std::string_view row) { log.append(row).append(kLineEnd); };
-  add("[REG1TEST;1]");
-  add("TName=Contest Velmar");
-  add("TDate=20250119;20250119");
-  add(Join("PCall=", call));
-  add(Join("PWWLo=", MadeLocator(station)));
-  add("PExch=");
-  add("PAdr1=");
-  add("PAdr2=");
-  add("PSect=2IT");
-  add("PBand=144 MHz");
-  add("PClub=");
-  add("RName=");
-  add(Join("RCall=", call));
-  add("MOpe1=");
-  add("STXEq=");
-  add("SPowe=50");
-  add("SAnte=9 el");
-  add("SAntH=10;350");
-  add(Join("CQSOs=", qsos, ";1"));
-  add("CToSc=0");
+  std::ranges::for_each(MadeHeader(station, qsos), add);
   add("[Remarks]");
   add(Join("[QSORecords;", qsos, "]"));
   for (std::size_t number = 1; number <= qsos; ++number) {
-    add(MadeQso((station + kStep * number) % kMadeStations, number));
+    add(MadeQso(Worked(station, number), number));
   }
   add("[END;a writer]");
   return log;
+}
+
+void WriteMadeLogs(const std::string& folder, std::size_t logs, std::size_t qsos) {
+  std::filesystem::create_directories(folder);
+  DiskFileSystem files;
+  for (std::size_t station = 0; station < logs; ++station) {
+    files.WriteAll(Join(folder, "/", MadeCall(station), ".edi"), MadeLog(station, qsos));
+  }
 }
 
 }  // namespace velmar::bench

@@ -11,7 +11,6 @@ namespace velmar {
 namespace {
 
 constexpr std::string_view kEveryCategory = "UNICA";
-constexpr std::string_view kBothCategories = "UNI";
 constexpr std::string_view kTestCategory = "3IT";
 
 /// Whether logs of a category and a band are admitted to the contest.

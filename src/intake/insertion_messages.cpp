@@ -1,5 +1,6 @@
 #include "intake/insertion_messages.h"
 
+#include "model/edi_log.h"
 #include "model/text.h"
 #include "platform/ansi.h"
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "intake/log_header.h"
+#include "model/edi_log.h"
 #include "model/text.h"
 
 namespace velmar {
@@ -11,6 +12,7 @@ namespace velmar {
 namespace {
 
 constexpr std::array<std::string_view, 2> kScratch = {"*.ED2", "*.ED3"};
+constexpr std::size_t kMovesPerLook = 100;
 constexpr double kGoodPercent = 3;
 constexpr double kBadPercent = 5;
 
@@ -37,6 +39,8 @@ std::string Shown(double number) {
 }  // namespace
 
 void IntakePanel::Refresh() {
+  moved_since_look_ = 0;
+  changes_expected_ = false;
   waiting_ = files_.List(session_.workspace.to_insert(), "*.*");
   std::erase_if(waiting_, [this](const std::string& name) {
     const bool scratch = std::ranges::any_of(
@@ -49,12 +53,32 @@ void IntakePanel::Refresh() {
   ListChosenFolder();
 }
 
+void IntakePanel::RefreshNowAndThen() {
+  if (changes_expected_ || moved_since_look_ >= kMovesPerLook || waiting_.empty()) {
+    Refresh();
+  }
+}
+
 void IntakePanel::ListChosenFolder() {
   if (form_.Dir1.value.empty() || form_.Dir1.value == session_.workspace.to_insert()) {
     form_.ShowFiles(session_.workspace.to_insert(), waiting_);
   } else {
     form_.ListFiles(files_, form_.Dir1.value);
   }
+}
+
+std::string IntakePanel::CopyPath(const IntakeState& log, std::string_view extension) const {
+  const std::string& name = log.log_name;
+  const std::size_t stem = name.size() - std::min(name.size(), extension.size());
+  return Join(session_.workspace.to_insert(), "/", Left(name, stem), extension);
+}
+
+std::string IntakePanel::LineCopyPath(const IntakeState& log) const {
+  return CopyPath(log, ".ED2");
+}
+
+std::string IntakePanel::RowCopyPath(const IntakeState& log) const {
+  return CopyPath(log, ".ED3");
 }
 
 void IntakePanel::RemoveRowCopies() {
@@ -83,14 +107,16 @@ void IntakePanel::Move(const IntakeState& log, const std::string& target) {
 
 void IntakePanel::RemoveSource(const IntakeState& log) {
   files_.Remove(log.log_path);
-  // In the list alone, since reading the folder again for each of its logs would take long.
-  std::erase_if(waiting_, [&](const std::string& name) {
-    return session_.workspace.to_insert() + "/" + name == log.log_path;
-  });
-  ListChosenFolder();
+  ++moved_since_look_;
+  const std::string name = log.log_path.substr(log.log_path.rfind('/') + 1);
+  if (!files_.StampOf(session_.workspace.to_insert() + "/" + name)) {
+    std::erase(waiting_, name);
+  }
+  form_.ForgetFile(name);
 }
 
 void IntakePanel::Reset() {
+  BecomeIdle();
   form_.ClearColours();
   form_.Marcafile.colour.reset();
   form_.Inserimento_OK.visible = false;
@@ -155,7 +181,10 @@ void IntakePanel::ShowDeclared(const IntakeState& log) {
 
 void IntakePanel::ShowScore(double declared, double total) {
   constexpr std::size_t kQuotientCharacters = 6;
-  const double quotient = Val(Left(StrReal(declared / total), kQuotientCharacters));
+  constexpr double kLeastQuotient = 0.001;  // a smaller one has no six characters to be cut to
+  const double quotient = declared / total < kLeastQuotient
+                              ? 0
+                              : Val(Left(StrReal(declared / total), kQuotientCharacters));
   const double percent = 100 * quotient - 100;
   form_.percentuale.value = Shown(std::round(percent * 100) / 100);
   form_.percentuale.colour = percent < kGoodPercent  ? std::optional(colour::kGreen)

@@ -25,8 +25,19 @@ class IntakePanel {
   /// folder that is chosen.
   void Refresh();
 
+  /// The same, but only when many logs were moved since, or none is left, or changes are expected:
+  /// in a run over many logs the folder would be read as often as it has logs.
+  void RefreshNowAndThen();
+
+  /// Others may have changed the folder: it is to be read before the next log is taken.
+  void ExpectChanges() { changes_expected_ = true; }
+
   /// The logs in the intake folder, as it was read last, less those that were moved since.
   const std::vector<std::string>& waiting() const { return waiting_; }
+
+  /// The scratch copies of a log, of all its lines and of its QSO rows, wherever it lies itself.
+  std::string LineCopyPath(const IntakeState& log) const;
+  std::string RowCopyPath(const IntakeState& log) const;
 
   /// Removes the scratch copies of the rows of any log.
   void RemoveRowCopies();
@@ -40,7 +51,7 @@ class IntakePanel {
   void RemoveSource(const IntakeState& log);
 
   // The log on screen.
-  void Reset();  ///< for a new read: colours, marks
+  void Reset();  ///< for a new read: no log is loaded, no colours, no mark
   void Clear();
   void ShowFile(const IntakeState& log);
   void ShowOwner(const IntakeState& log);
@@ -59,6 +70,7 @@ class IntakePanel {
 
  private:
   void ListChosenFolder();
+  std::string CopyPath(const IntakeState& log, std::string_view extension) const;
   void Move(const IntakeState& log, const std::string& target);
   void UnlockMenus();
   std::array<Menu*, 5> LockedMenus();
@@ -67,6 +79,8 @@ class IntakePanel {
   FileSystem& files_;
   MainForm& form_;
   std::vector<std::string> waiting_;
+  std::size_t moved_since_look_ = 0;
+  bool changes_expected_ = true;
   std::optional<std::array<bool, 5>> before_lock_;  ///< whether the locked menus were enabled
 };
 

@@ -37,6 +37,10 @@ struct QsoTotals {
   std::string best_call;
 };
 
+/// A category that stands for another one: it becomes that of the contest once its rows have
+/// passed.
+inline constexpr std::string_view kBothCategories = "UNI";
+
 /// The log that is being read, from its choice to its filing.
 struct IntakeState {
   // The file.
@@ -71,6 +75,8 @@ struct IntakeState {
   std::string dx_distance;
   DxClaim dx;
   bool needs_category = false;
+
+  bool accepted = false;  ///< every test is passed: the log waits to be filed
 
   // The pass over its rows.
   std::vector<ValidatedQso> qsos;  ///< by row number, the first at index 0

@@ -4,8 +4,8 @@
 
 #include "intake/insertion_messages.h"
 #include "intake/pass_messages.h"
-#include "intake/qso_validation.h"
 #include "model/classification_row.h"
+#include "model/edi_log.h"
 #include "model/lines.h"
 #include "model/store_rows.h"
 #include "model/text.h"
@@ -16,8 +16,6 @@ namespace velmar {
 
 namespace {
 
-constexpr std::size_t kDateWidth = 6;
-
 /// Words in a QSO row that keep it out of the sum of valid QSOs. They mind the case, and the last
 /// is spelt so on purpose.
 bool IsTakenBack(std::string_view row) {
@@ -27,8 +25,8 @@ bool IsTakenBack(std::string_view row) {
 }  // namespace
 
 void LogFiling::Marcafile_Click() {
-  if (log_.log_path.empty()) {
-    return;  // a hot key ahead of any read
+  if (!log_.accepted && !log_.needs_category) {
+    return;  // a hot key while there is nothing to file
   }
   Trap([&] { panel_.Refresh(); });
   File();
@@ -63,6 +61,8 @@ bool LogFiling::File() {
     }
     MoveLog();
     Finish();
+    log_.accepted = false;
+    log_.needs_category = false;
   });
   return gone_;
 }
@@ -89,11 +89,13 @@ bool LogFiling::TurnAwayRepeated() {
 
 void LogFiling::WriteStore() {
   step_ = 2;
+  const std::string owner = Join(Call12(log_.own_call), ";");
   std::string copy;
   for (std::size_t line = 1; line <= log_.totals.lines; ++line) {
-    copy += Join(Call12(log_.own_call), ";", log_.Row(line), kLineEnd);
+    copy += owner;
+    AddLine(copy, log_.Row(line));
   }
-  files_.WriteAll(LineCopyPath(log_), copy);
+  files_.WriteAll(panel_.LineCopyPath(log_), copy);
   step_ = 3;
   AppendSums();
   form_.perc_mem.caption = std::to_string(store_.LibraryLines(log_.code));
@@ -111,7 +113,7 @@ void LogFiling::WriteStore() {
 std::vector<std::string_view> LogFiling::RowsOfLastDate() const {
   std::vector<std::string_view> rows;
   for (std::size_t row = log_.first_qso_row; row <= log_.last_qso_row; ++row) {
-    if (Left(log_.Row(row), kDateWidth) == log_.last_row_date) {
+    if (Left(log_.Row(row), edi::kDateWidth) == log_.last_row_date) {
       rows.push_back(log_.Row(row));
     }
   }
@@ -122,9 +124,9 @@ void LogFiling::AppendSums() {
   std::string all;
   std::string valid;
   for (const std::string_view row : RowsOfLastDate()) {
-    all += Join(SommaSlxRow(log_.own_call, row), kLineEnd);
+    AddLine(all, SommaSlxRow(log_.own_call, row));
     if (!IsTakenBack(row)) {
-      valid += Join(SommaQsoRow(row, log_.code, log_.own_locator, log_.own_call), kLineEnd);
+      AddLine(valid, SommaQsoRow(row, log_.code, log_.own_locator, log_.own_call));
     }
   }
   store_.Append(StoreFile::kSommaSlx, log_.code, all);
@@ -152,7 +154,7 @@ void LogFiling::AppendRows(StoreFile file, const std::vector<std::string>& rows,
                            const std::function<Box(const std::string& row)>& complaint) {
   std::string text;
   for (const std::string& row : rows) {
-    text += Join(row, kLineEnd);
+    AddLine(text, row);
   }
   try {
     store_.Append(file, log_.code, text);
@@ -187,8 +189,8 @@ void LogFiling::AppendClassification() {
 void LogFiling::RemoveScratch() {
   form_.Marcafile.visible = false;
   form_.Marcatura.enabled = false;
-  RemoveIfThere(files_, LineCopyPath(log_));
-  RemoveIfThere(files_, RowCopyPath(log_));
+  RemoveIfThere(files_, panel_.LineCopyPath(log_));
+  RemoveIfThere(files_, panel_.RowCopyPath(log_));
   form_.Aggiorna.colour.reset();
   form_.Aggiorna.enabled = false;
   form_.aggiorna_categoria.enabled = false;
@@ -222,6 +224,7 @@ void LogFiling::Finish() {
   form_.Inserimento_OK.visible = true;
   form_.focus = &form_.caricaedi;
   session_.log_inserted_since_load = true;
+  panel_.RefreshNowAndThen();
   if (panel_.waiting().empty()) {
     panel_.Close();
   }

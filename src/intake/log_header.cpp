@@ -148,7 +148,7 @@ void TakeStation(IntakeState& state) {
   TakeHeights(state);
 }
 
-std::optional<ValueFault> TakeDeclared(IntakeState& state) {
+std::optional<ValueFault> TakeCounts(IntakeState& state) {
   const std::string_view qsos = HeaderValue(state, header_row::kQsos);
   state.declared_qsos = LTrim(Left(qsos.substr(0, qsos.find(';')), kQsosWidth));
   if (Val(state.declared_qsos) == 0) {
@@ -158,9 +158,10 @@ std::optional<ValueFault> TakeDeclared(IntakeState& state) {
   if (state.declared_points.empty()) {
     return ValueFault::kNoPoints;
   }
-  if (!IsDigits(state.declared_points)) {
-    return ValueFault::kBadPoints;
-  }
+  return IsDigits(state.declared_points) ? std::nullopt : std::optional(ValueFault::kBadPoints);
+}
+
+std::optional<ValueFault> TakeTotals(IntakeState& state) {
   if (Trim(HeaderValue(state, header_row::kTotal)).empty()) {
     return ValueFault::kNoTotal;
   }

@@ -28,16 +28,6 @@ std::vector<const HeaderKey*> MissingKeys(const IntakeState& state);
 /// The value of a header row, by its number from 1: the text from column 7 on.
 std::string_view HeaderValue(const IntakeState& state, std::size_t row);
 
-/// The rows of the header that are read by their number.
-namespace header_row {
-inline constexpr std::size_t kContest = 2, kDates = 3, kCall = 4, kLocator = 5, kExchange = 6,
-                             kSite = 7, kSection = 9, kBand = 10, kOperator = 12, kResponsible = 13,
-                             kAddress = 14, kPostalCode = 16, kPhone = 19, kOperators = 21,
-                             kTransmitter = 23, kPower = 24, kReceiver = 25, kAntenna = 26,
-                             kHeights = 27, kQsos = 28, kPoints = 29, kSquares = 30,
-                             kExchanges = 32, kCountries = 34, kTotal = 36, kDx = 37, kRemarks = 38;
-}  // namespace header_row
-
 /// Why the declared values of a log can't be taken.
 enum class ValueFault { kCallWithoutDigit, kZeroQsos, kBadPoints, kNoPoints, kNoTotal, kBadDx };
 
@@ -47,8 +37,10 @@ std::optional<ValueFault> TakeOwner(IntakeState& state);
 /// Takes category and band, power, antenna and height of the station.
 void TakeStation(IntakeState& state);
 
-/// Takes what the log declares: QSOs, points, farthest QSO.
-std::optional<ValueFault> TakeDeclared(IntakeState& state);
+/// Takes what the log declares: the number of its valid QSOs and its points; and behind the rows
+/// that count for nothing, the farthest QSO.
+std::optional<ValueFault> TakeCounts(IntakeState& state);
+std::optional<ValueFault> TakeTotals(IntakeState& state);
 
 /// The three parts of a value such as "0;0;1", for display. A value that has fewer is filled up;
 /// one with more can't be split, and gives nothing.

@@ -17,8 +17,6 @@ namespace {
 constexpr std::string_view kSeparators = "(|@_\\/-";
 constexpr std::size_t kLongestPrefix = 4;  ///< with its separator
 constexpr std::size_t kMostLines = 370'000;
-constexpr std::size_t kSectionRow = 9;
-constexpr std::size_t kBandRow = 10;
 constexpr std::string_view kNoLog = "Log non valido";
 constexpr std::string_view kNoCall = "call non valido";
 constexpr std::string_view kNameEnd = ".edi";
@@ -89,22 +87,22 @@ void NoteMissing(LogIdentity& log, std::string_view note, std::size_t index) {
 }
 
 void TakeSection(LogIdentity& log, const std::vector<std::string_view>& header, std::size_t index) {
-  log.lacks_section = !HasKey(Row(header, kSectionRow), "PSECT");
+  log.lacks_section = !HasKey(Row(header, header_row::kSection), "PSECT");
   if (log.lacks_section) {
     NoteMissing(log, " manca PSect - ", index);
   } else {
-    log.section = Mid(Row(header, kSectionRow), edi::kValueColumn);
+    log.section = Mid(Row(header, header_row::kSection), edi::kValueColumn);
   }
 }
 
 void TakeBand(LogIdentity& log, const std::vector<std::string_view>& header, std::size_t index) {
-  log.lacks_band = !HasKey(Row(header, kBandRow), "PBAND");
+  log.lacks_band = !HasKey(Row(header, header_row::kBand), "PBAND");
   if (log.lacks_band) {
     NoteMissing(log, " manca PBand - ", index);
     log.text += " no frequenza";
     return;
   }
-  log.band = Mid(Row(header, kBandRow), edi::kValueColumn);
+  log.band = Mid(Row(header, header_row::kBand), edi::kValueColumn);
   if (RTrim(log.section) == kCategory && BandOf(log.band) != 144) {
     log.text = Join(kSetAsideMark, log.text, " Problem  Cat=", log.section, " Freq=", log.band, " ",
                     index);

@@ -12,8 +12,6 @@ namespace velmar {
 namespace {
 
 constexpr std::size_t kMostLines = 370'000;
-constexpr std::size_t kBandRow = 10;
-constexpr std::size_t kDateWidth = 6;
 constexpr std::size_t kCountColumn = 13;
 constexpr std::size_t kCountWidth = 4;
 constexpr std::string_view kSectionStart = "[QSORecords";
@@ -58,7 +56,7 @@ class LineTaker {
     if (!in_qsos || line.starts_with(edi::kEnd) || behind_last) {
       return true;
     }
-    state_.last_row_date = Left(line, kDateWidth);
+    state_.last_row_date = Left(line, edi::kDateWidth);
     return test_run_ || state_.last_row_date == contest_date_;
   }
 
@@ -79,7 +77,7 @@ class LineTaker {
       state_.last_qso_row = Number() - 1;
       state_.end_seen = true;
     }
-    if (Number() == kBandRow) {
+    if (Number() == header_row::kBand) {
       // So that the number of the band stops at the whole MHz.
       state_.rows.back() = Replaced(line, '.', ',');
     }

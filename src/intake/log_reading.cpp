@@ -1,7 +1,5 @@
 #include "intake/log_reading.h"
 
-#include <array>
-
 #include "intake/insertion_messages.h"
 #include "intake/log_lines.h"
 #include "model/edi_log.h"
@@ -19,7 +17,7 @@ constexpr std::size_t kNamePrefix = 4;  ///< characters, the category and what f
 constexpr std::string_view kUnfinishedName = "-_-";
 constexpr std::string_view kNameEnds = ".-_";
 constexpr std::string_view kMark =
-    edi::kRecalculated.substr(6, 20);  ///< at column 7 of the last row
+    edi::kRecalculated.substr(edi::kValueColumn - 1, 20);  ///< at column 7 of the last row
 constexpr std::size_t kMostMarkedLines = 1000;
 
 /// Whether a log went through the recalculation. One of too many lines raises error 9.
@@ -67,6 +65,7 @@ LogReading::LogReading(ContestSession& session, FileSystem& files, Manager& mana
 
 void LogReading::caricaedi_Click() {
   at_start_ = 0;
+  panel_.ExpectChanges();
   while (ReadNext() && form_.turbo.checked) {
   }
   form_.Bar1.visible = false;
@@ -94,7 +93,7 @@ void LogReading::Trap(const std::function<void()>& procedure) {
 }
 
 void LogReading::Read() {
-  panel_.Refresh();
+  panel_.RefreshNowAndThen();
   if (!HasLogs()) {
     return;
   }
@@ -108,6 +107,7 @@ void LogReading::Read() {
   const bool fits = ChooseFile() && NameFits() && months_.ReadContestDate(log_.code) &&
                     TakeFile() && HeaderFits() && TakeHeader() && CategoryFits() && CountsFit() &&
                     RowsFit() && LastChecksPass();
+  log_.accepted = fits;
   if (fits) {
     FileAtOnce();
   }
@@ -228,26 +228,34 @@ bool LogReading::HeaderFits() {
 }
 
 bool LogReading::TakeHeader() {
-  if (const auto fault = TakeOwner(log_)) {
-    form_.Callusato.colour = colour::kLightRed;
-    RefuseAndTell(RefusalFor(*fault), ValueFaultBox(log_, *fault));
-    return false;
-  }
+  const auto fault = TakeOwner(log_);
   panel_.ShowOwner(log_);
-  if (!LocatorFits()) {
+  if (fault) {
+    form_.Callusato.colour = colour::kLightRed;
+  }
+  if (!Takes(fault) || !LocatorFits()) {
     return false;
   }
   log_.section = form_.club.value;
   TakeStation(log_);
   panel_.ShowStation(log_);
-  const auto fault = TakeDeclared(log_);
-  if (fault) {
-    RefuseAndTell(RefusalFor(*fault), ValueFaultBox(log_, *fault));
+  if (!Takes(TakeCounts(log_))) {
     return false;
   }
   WarnOfRows();
+  if (!Takes(TakeTotals(log_))) {
+    return false;
+  }
   panel_.ShowDeclared(log_);
   return true;
+}
+
+/// Refuses the log for a fault of its values.
+bool LogReading::Takes(std::optional<ValueFault> fault) {
+  if (fault) {
+    RefuseAndTell(RefusalFor(*fault), ValueFaultBox(log_, *fault));
+  }
+  return !fault;
 }
 
 bool LogReading::LocatorFits() {

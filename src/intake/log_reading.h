@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "intake/category_choice.h"
@@ -54,6 +55,7 @@ class LogReading {
   bool LastChecksPass();
   bool NameFitsCategory();
 
+  bool Takes(std::optional<ValueFault> fault);
   void WarnOfRows();
   void AppendTeam();
   void FileAtOnce();

@@ -26,9 +26,9 @@ Box TimeBox(const IntakeState& log, const QsoProblem& problem, std::string first
 }
 
 Box NoModeBox(const QsoProblem& problem) {
-  std::size_t end = 0;  // behind the semicolon of the call, the third one
-  for (std::size_t field = 1; field <= edi::kCallField; ++field) {
-    end = problem.row.find(';', end) + 1;
+  std::size_t end = problem.row.find(';');  // becomes the end of the call
+  for (std::size_t field = edi::kDateField; field < edi::kCallField; ++field) {
+    end = problem.row.find(';', end + 1);
   }
   return {.lines = {Join("il qso n°"_a, problem.number, " è privo del modo di emissione."_a),
                     problem.row, " Tra la fine del call e il primo '59' ci deve eseere un numero",

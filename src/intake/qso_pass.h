@@ -74,8 +74,8 @@ class QsoPass {
 };
 
 /// Marks the doubled rows of a pass and gives their number: a row without a call, one marked so by
-/// its writer, and each but the last QSO with a call. So of a station worked three times the last
-/// QSO is the one that is no double.
+/// its writer, and each but the last QSO with a call, save one that holds "ERROR". So of a station
+/// worked three times the last QSO is the one that is no double.
 int MarkDoubles(std::vector<ValidatedQso>& qsos);
 
 }  // namespace velmar

@@ -14,33 +14,18 @@ namespace velmar {
 namespace {
 
 constexpr std::string_view kCwCategory = "4IT";  ///< the one whose CW QSOs are listed
-constexpr std::string_view kBothCategories = "UNI";
 constexpr std::string_view kBandText = " 144 Mhz";
 constexpr std::size_t kDeclaredWidth = 7;
-
-std::string CopyPath(const IntakeState& log, std::string_view extension) {
-  const std::string& path = log.log_path;
-  return Join(Left(path, path.size() - std::min(path.size(), extension.size())), extension);
-}
 
 std::string AsFile(const std::vector<std::string>& rows) {
   std::string text;
   for (const std::string& row : rows) {
-    text += row;
-    text += kLineEnd;
+    AddLine(text, row);
   }
   return text;
 }
 
 }  // namespace
-
-std::string LineCopyPath(const IntakeState& log) {
-  return CopyPath(log, ".ED2");
-}
-
-std::string RowCopyPath(const IntakeState& log) {
-  return CopyPath(log, ".ED3");
-}
 
 void QsoValidation::ValidateQsos(IntakeState& log) {
   log.qsos.clear();
@@ -58,7 +43,7 @@ void QsoValidation::Run(IntakeState& log) {
   const QsoRows found = CollectQsoRows(files_.ReadAll(log.log_path));
   log.totals.lines = found.lines;
   log.totals.rows = static_cast<int>(found.rows.size());
-  files_.WriteAll(RowCopyPath(log), AsFile(found.rows));
+  files_.WriteAll(panel_.RowCopyPath(log), AsFile(found.rows));
   if (found.rows.empty()) {
     manager_.Show(NoRowsBox());
     log.invalid = true;

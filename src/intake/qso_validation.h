@@ -25,7 +25,7 @@ class QsoValidation {
 
   /// Runs the pass. Afterwards `invalid` and `pass_failed` of the log tell what to do: a pass that
   /// failed has told the manager, and the log lies where it lay or was refused; a log that is only
-  /// invalid is still to be refused. An own locator that is none ends the program.
+  /// invalid is still to be refused.
   void ValidateQsos(IntakeState& log);
 
  private:
@@ -44,9 +44,5 @@ class QsoValidation {
   IntakePanel& panel_;
   MainForm& form_;
 };
-
-/// The scratch copies of a log: all its lines, and its QSO rows.
-std::string LineCopyPath(const IntakeState& log);
-std::string RowCopyPath(const IntakeState& log);
 
 }  // namespace velmar

@@ -1,5 +1,6 @@
 #include "intake/refusal.h"
 
+#include <algorithm>
 #include <array>
 
 #include "model/text.h"
@@ -7,6 +8,8 @@
 namespace velmar {
 
 namespace {
+
+constexpr std::size_t kLongestCategory = 60;
 
 struct Naming {
   std::string_view suffix;
@@ -27,14 +30,23 @@ constexpr std::array<Naming, 21> kNamings = {
      {" -_- fuori orario dopo.edi"}, {" -_- ora non valido.edi"},
      {" -_- n qso errati.edi"}}};
 
+/// A declared category without what no file name can hold, and what would hide the file.
+std::string InFileName(std::string_view category) {
+  std::string name(Left(category, kLongestCategory));
+  std::ranges::replace_if(
+      name, [](char c) { return c == '/' || c == '\\' || static_cast<unsigned char>(c) < ' '; },
+      '_');
+  if (name.starts_with('.')) {
+    name.front() = '_';
+  }
+  return name;
+}
+
 }  // namespace
 
 RefusedName NameOfRefused(const IntakeState& state, Refusal refusal) {
   const Naming& naming = kNamings.at(static_cast<std::size_t>(refusal));
-  // A declared category may hold what no file name can.
-  const std::string front = naming.category_in_front
-                                ? Join(Replaced(Replaced(state.category, '/', '_'), '\\', '_'), " ")
-                                : "";
+  const std::string front = naming.category_in_front ? Join(InFileName(state.category), " ") : "";
   return {front + state.log_name, std::string(naming.suffix)};
 }
 

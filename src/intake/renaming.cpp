@@ -27,8 +27,7 @@ std::string WithUsualLineEnds(std::string_view text) {
   usual.reserve(text.size());
   LineReader reader(text);
   for (std::string_view line; reader.Next(line);) {
-    usual += line;
-    usual += kLineEnd;
+    AddLine(usual, line);
   }
   return usual;
 }

@@ -169,8 +169,7 @@ bool ContestStore::RewriteWithout(const std::string& path,
       throw RunTimeError(ErrorNumber::kSubscript, path);
     }
     if (!leave_out(line)) {
-      kept += line;
-      kept += kLineEnd;
+      AddLine(kept, line);
     }
   }
   files_.WriteAll(path, kept);

@@ -19,6 +19,7 @@ inline constexpr std::string_view kEnd = "[END";      ///< held by the row behin
 inline constexpr std::string_view kEndRow = "[END;";  ///< the same with the writer's text
 inline constexpr std::string_view kRecalculated = "[END; recalculated for VLM]";
 inline constexpr std::size_t kValueColumn = 7;  ///< where the value of a header row begins
+inline constexpr std::size_t kDateWidth = 6;    ///< of the date of a QSO row
 inline constexpr std::size_t kSemicolons = 14;  ///< of a whole QSO row
 inline constexpr std::size_t kDateField = 1;    ///< fields of a QSO row, counted from 1
 inline constexpr std::size_t kTimeField = 2;
@@ -29,6 +30,16 @@ inline constexpr std::size_t kShortestQso = 7;        ///< rows of fewer charact
 inline constexpr std::size_t kMostHeaderRows = 1000;  ///< lines that are looked at for the own call
 
 }  // namespace edi
+
+/// The rows of the header that are read by their number.
+namespace header_row {
+inline constexpr std::size_t kContest = 2, kDates = 3, kCall = 4, kLocator = 5, kExchange = 6,
+                             kSite = 7, kSection = 9, kBand = 10, kOperator = 12, kResponsible = 13,
+                             kAddress = 14, kPostalCode = 16, kPhone = 19, kOperators = 21,
+                             kTransmitter = 23, kPower = 24, kReceiver = 25, kAntenna = 26,
+                             kHeights = 27, kQsos = 28, kPoints = 29, kSquares = 30,
+                             kExchanges = 32, kCountries = 34, kTotal = 36, kDx = 37, kRemarks = 38;
+}  // namespace header_row
 
 struct HeaderRow {
   std::string key;         ///< the first 5 characters, in capitals

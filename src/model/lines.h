@@ -26,6 +26,12 @@ class LineReader {
   std::size_t next_lf_;  ///< the next LF from `at_` on; a file with CR alone is searched once
 };
 
+/// Writes a line with its line end behind `text`.
+inline void AddLine(std::string& text, std::string_view line) {
+  text += line;
+  text += kLineEnd;
+}
+
 /// All lines of a text, as LineReader gives them.
 std::vector<std::string_view> SplitLines(std::string_view text);
 

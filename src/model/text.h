@@ -86,7 +86,16 @@ std::string Replaced(std::string_view text, char from, char to);
 /// Texts and numbers behind one another. A number has no blanks of its own here.
 template <typename... Parts>
 std::string Join(const Parts&... parts) {
+  constexpr std::size_t kMostDigits = 20;
+  const auto room = []<typename Part>(const Part& part) -> std::size_t {
+    if constexpr (requires { std::to_string(part); }) {
+      return kMostDigits;
+    } else {
+      return std::string_view(part).size();
+    }
+  };
   std::string joined;
+  joined.reserve((room(parts) + ... + 0));
   const auto add = [&joined]<typename Part>(const Part& part) {
     static_assert(!std::is_same_v<Part, char>, "a character would be taken for a number");
     if constexpr (requires { std::to_string(part); }) {

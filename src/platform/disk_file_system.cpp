@@ -77,12 +77,17 @@ void MindProtection(const struct stat& status, const std::string& path) {
   }
 }
 
-/// The same for the file at a path, where there is one.
-void MindProtection(const std::string& path) {
+/// What stands at a path that is to be written: nothing, or a file that may be.
+std::optional<struct stat> WritableStatus(const std::string& path) {
   struct stat status {};
-  if (stat(path.c_str(), &status) == 0) {
-    MindProtection(status, path);
+  if (stat(path.c_str(), &status) != 0) {
+    return std::nullopt;
   }
+  if (S_ISDIR(status.st_mode)) {
+    Fail(EISDIR, path);
+  }
+  MindProtection(status, path);
+  return status;
 }
 
 /// An open file of the operating system.
@@ -129,8 +134,6 @@ class OpenFile {
     }
   }
 
-  void MindProtection() { velmar::MindProtection(Status(), path_); }
-
   void Write(std::string_view bytes) {
     while (!bytes.empty()) {
       const ssize_t put = write(descriptor_, bytes.data(), bytes.size());
@@ -168,10 +171,7 @@ class OpenFile {
 
 /// Writes a hidden file beside `path` and, when all of it is there, gives it the name.
 void Replace(const std::string& path, std::string_view bytes) {
-  if (IsFolder(path)) {
-    Fail(EISDIR, path);
-  }
-  MindProtection(path);
+  WritableStatus(path);
   const std::string temporary = ParentOf(path) + "/.velmar-" + std::to_string(getpid()) + ".part";
   try {
     OpenFile file(temporary, O_WRONLY | O_CREAT | O_TRUNC);
@@ -188,8 +188,8 @@ void Replace(const std::string& path, std::string_view bytes) {
 
 /// Gives a file back the size that it had, or removes one that was not there. Where even that
 /// fails, the failure that led here is the one to be told.
-void TakeBack(const std::string& path, std::optional<off_t> size) {
-  const int result = size ? truncate(path.c_str(), *size) : unlink(path.c_str());
+void TakeBack(const std::string& path, const std::optional<struct stat>& before) {
+  const int result = before ? truncate(path.c_str(), before->st_size) : unlink(path.c_str());
   static_cast<void>(result);
 }
 
@@ -241,15 +241,13 @@ void DiskFileSystem::WriteAll(const std::string& path, std::string_view bytes) {
 
 void DiskFileSystem::Append(const std::string& path, std::string_view bytes) {
   const std::string disk_path = OnDisk(path);
-  struct stat before {};
-  const bool there = stat(disk_path.c_str(), &before) == 0;
+  const auto before = WritableStatus(disk_path);
   OpenFile file(disk_path, O_WRONLY | O_CREAT | O_APPEND);
-  file.MindProtection();
   try {
     file.Write(bytes);
     file.Close();
   } catch (const RunTimeError&) {
-    TakeBack(disk_path, there ? std::optional(before.st_size) : std::nullopt);
+    TakeBack(disk_path, before);
     throw;
   }
 }
@@ -293,7 +291,7 @@ void DiskFileSystem::Move(const std::string& from, const std::string& to) {
 
 void DiskFileSystem::Remove(const std::string& path) {
   const std::string disk_path = OnDisk(path);
-  MindProtection(disk_path);
+  WritableStatus(disk_path);
   if (unlink(disk_path.c_str()) != 0) {
     Fail(errno, disk_path);
   }

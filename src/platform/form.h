@@ -48,6 +48,10 @@ class Items {
     rows_ = std::move(rows);
     ++version_;
   }
+  void Remove(const std::string& row) {
+    std::erase(rows_, row);
+    ++version_;
+  }
   void Add(std::string row) {
     rows_.push_back(std::move(row));
     ++version_;

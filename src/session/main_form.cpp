@@ -71,9 +71,19 @@ void MainForm::ListFiles(FileSystem& files, const std::string& folder) {
 
 void MainForm::ShowFiles(const std::string& folder, std::vector<std::string> names) {
   Dir1.value = folder;
-  num_file2.caption = std::to_string(names.size());
-  File1.selection = names.empty() ? -1 : 0;
   File1.items.Assign(std::move(names));
+  CountFiles();
+}
+
+void MainForm::ForgetFile(const std::string& name) {
+  File1.items.Remove(name);
+  CountFiles();
+}
+
+void MainForm::CountFiles() {
+  const std::size_t files = File1.items.rows().size();
+  num_file2.caption = std::to_string(files);
+  File1.selection = files == 0 ? -1 : 0;
 }
 
 }  // namespace velmar

@@ -137,10 +137,14 @@ class MainForm : public Form {
   void ListFiles(FileSystem& files, const std::string& folder);
   void ShowFiles(const std::string& folder, std::vector<std::string> names);
 
+  /// Takes a file out of the list.
+  void ForgetFile(const std::string& name);
+
  private:
   TextField& AddPanel(const std::string& name, const std::string& caption);
   Combo& AddPanelCombo(const std::string& name, std::vector<std::string> rows);
   void SetPanel(bool seen);
+  void CountFiles();
 };
 
 }  // namespace velmar

@@ -146,12 +146,14 @@ class FailingFileSystem : public FileSystem {
   explicit FailingFileSystem(FileSystem& real) : real_(real) {}
 
   /// Breaks with `number` at the call of that number among all that write, move or remove, counted
-  /// from 1; 0 for none.
+  /// from 1, and at as many calls behind it as `breaks` has more than one; 0 for none.
   int break_at_change = 0;
+  int breaks = 1;
   /// Breaks every call that concerns a path which holds this text; empty for none.
   std::string broken_path;
   ErrorNumber number = ErrorNumber::kDiskFull;
   int changes = 0;
+  std::vector<std::string> changed_paths;  ///< of those calls, in their order
 
   bool FolderExists(const std::string& path) override { return real_.FolderExists(path); }
   std::optional<FileStamp> StampOf(const std::string& path) override {
@@ -201,7 +203,9 @@ class FailingFileSystem : public FileSystem {
   }
   void Change(const std::string& path) {
     Look(path);
-    if (++changes == break_at_change) {
+    changed_paths.push_back(path);
+    ++changes;
+    if (break_at_change > 0 && changes >= break_at_change && changes < break_at_change + breaks) {
       throw RunTimeError(number, path);
     }
   }

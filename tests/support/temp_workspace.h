@@ -26,7 +26,7 @@ class TempWorkspace {
   TempWorkspace& WithSettings();
   /// A log among those to be recalculated.
   TempWorkspace& WithLog(const std::string& name, std::string_view text);
-  /// Any file, by its path in the workspace.
+  /// Any file, by its path in the workspace; its folder is made.
   TempWorkspace& With(const std::string& path, std::string_view bytes);
 
   const Workspace& paths() const { return paths_; }
@@ -53,5 +53,34 @@ std::string LogText(std::string_view call, std::string_view locator,
 
 /// A QSO row with a call and a locator, and the fields that nobody looks at.
 std::string QsoRow(std::string_view call, std::string_view locator, std::string_view points = "99");
+
+/// A log as the recalculation leaves it, with all rows of the header, that may be inserted as it
+/// stands: of IK2QAA in JN45AA, with three QSOs in the hour of the contest on 19 January 2025.
+class InsertableLog {
+ public:
+  InsertableLog();
+
+  /// Another call and locator of the owner.
+  InsertableLog& Of(std::string_view call, std::string_view locator = "JN45AA");
+  /// Another text of a header row, by its number from 1 to 37.
+  InsertableLog& Row(std::size_t number, std::string_view text);
+  /// Other QSO rows. The log declares them all, and all of them valid.
+  InsertableLog& Qsos(std::vector<std::string> rows);
+  /// Another row ahead of the QSOs, or behind them; none for an empty text.
+  InsertableLog& Start(std::string_view row);
+  InsertableLog& End(std::string_view row);
+
+  std::string Text() const;
+
+ private:
+  std::vector<std::string> header_;
+  std::vector<std::string> qsos_;
+  std::string start_;
+  std::string end_ = "[END; recalculated for VLM]";
+};
+
+/// A QSO row of the contest day.
+std::string ContestQso(std::string_view call, std::string_view locator,
+                       std::string_view time = "1005", std::string_view mode = "1");
 
 }  // namespace velmar::test
