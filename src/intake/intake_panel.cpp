@@ -81,6 +81,13 @@ std::string IntakePanel::RowCopyPath(const IntakeState& log) const {
   return CopyPath(log, ".ED3");
 }
 
+void IntakePanel::RemoveCopies(const IntakeState& log) {
+  if (!log.log_name.empty()) {
+    RemoveIfThere(files_, LineCopyPath(log));
+    RemoveIfThere(files_, RowCopyPath(log));
+  }
+}
+
 void IntakePanel::RemoveRowCopies() {
   RemoveMatching(files_, session_.workspace.to_insert(), kScratch.back());
 }

@@ -39,7 +39,8 @@ class IntakePanel {
   std::string LineCopyPath(const IntakeState& log) const;
   std::string RowCopyPath(const IntakeState& log) const;
 
-  /// Removes the scratch copies of the rows of any log.
+  /// Removes the scratch copies of one log, where it has any; the copies of the rows of any log.
+  void RemoveCopies(const IntakeState& log);
   void RemoveRowCopies();
 
   // What becomes of a log that is not filed. The copy is whole before the source goes, and never

@@ -189,8 +189,7 @@ void LogFiling::AppendClassification() {
 void LogFiling::RemoveScratch() {
   form_.Marcafile.visible = false;
   form_.Marcatura.enabled = false;
-  RemoveIfThere(files_, panel_.LineCopyPath(log_));
-  RemoveIfThere(files_, panel_.RowCopyPath(log_));
+  panel_.RemoveCopies(log_);
   form_.Aggiorna.colour.reset();
   form_.Aggiorna.enabled = false;
   form_.aggiorna_categoria.enabled = false;

@@ -93,6 +93,7 @@ void LogReading::Trap(const std::function<void()>& procedure) {
 }
 
 void LogReading::Read() {
+  panel_.RemoveCopies(log_);
   panel_.RefreshNowAndThen();
   if (!HasLogs()) {
     return;
