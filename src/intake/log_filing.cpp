@@ -187,16 +187,11 @@ void LogFiling::AppendClassification() {
 }
 
 void LogFiling::RemoveScratch() {
-  form_.Marcafile.visible = false;
-  form_.Marcatura.enabled = false;
+  panel_.BecomeIdle();
   panel_.RemoveCopies(log_);
   form_.Aggiorna.colour.reset();
   form_.Aggiorna.enabled = false;
   form_.aggiorna_categoria.enabled = false;
-  form_.caricaedi.visible = true;
-  form_.caricaedi.enabled = true;
-  form_.apri.enabled = true;
-  form_.Info.enabled = true;
 }
 
 void LogFiling::MoveLog() {

@@ -181,14 +181,10 @@ bool LogReading::NameFits() {
 }
 
 bool LogReading::TakeFile() {
-  std::string text;
-  try {
-    text = files_.ReadAll(log_.log_path);
-  } catch (const RunTimeError& error) {
-    const bool missing = error.number() == ErrorNumber::kFileNotFound ||
-                         error.number() == ErrorNumber::kPathNotFound;
-    throw missing ? RunTimeError(ErrorNumber::kBadFileName, log_.log_path) : error;
+  if (!files_.StampOf(log_.log_path)) {
+    throw RunTimeError(ErrorNumber::kBadFileName, log_.log_path);
   }
+  const std::string text = files_.ReadAll(log_.log_path);
   const LineCheck check = TakeLines(text, session_.contest_date, form_.Testlog.checked, log_);
   switch (check.fault) {
     case LineFault::kDate:
