@@ -55,16 +55,16 @@ Box QsoLocatorBox(const QsoProblem& problem) {
           {Join("  Il locatore ", problem.locator, " del QSO n° "_a, problem.number, " di ",
                 problem.call, " è SBAGLIATO."_a),
            "                     ",
-           " Controlla numeri e lettere, non ci possono essere numeri oltre ai due centrali, "
-           "verifica la lettera O con lo zero 0 ",
-           "                                 le lettere valide sono da AA a XX, non validi Y "
-           "e Z.",
+           Join(" Controlla numeri e lettere, non ci possono essere numeri oltre ai due centrali, ",
+                "verifica la lettera O con lo zero 0 "),
+           Join("                                 ",
+                "le lettere valide sono da AA a XX, non validi Y e Z."),
            " Il log verrà inserito ugualmente ma DECURTATO del punteggio con locatore errato."_a,
            " Prendi nota del qso per verifiche sucessive, se il qso non ha altri errori non "
            "verrà visualizzato e il punteggio finale è corretto."_a,
            "    ",
-           " Con questo locatore errato non si potranno fare delle ricerche di altri call su "
-           "questo locatore inesistente.",
+           Join(" Con questo locatore errato non si potranno fare delle ricerche di altri call su ",
+                "questo locatore inesistente."),
            " Controlla che non sia un qso doppio nel quale non risulta il locatore. "},
       .icon = Icon::kStop,
       .title = " LOCATORE ERRATO"};

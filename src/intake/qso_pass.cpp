@@ -1,5 +1,6 @@
 #include "intake/qso_pass.h"
 
+#include <ranges>
 #include <unordered_set>
 #include <utility>
 
@@ -181,13 +182,13 @@ void QsoPass::AddUp(const ValidatedQso& qso) {
 int MarkDoubles(std::vector<ValidatedQso>& qsos) {
   int doubles = 0;
   std::unordered_set<std::string_view> later;  // calls of the QSOs behind the one in hand
-  for (auto qso = qsos.rbegin(); qso != qsos.rend(); ++qso) {
-    const bool repeated = later.contains(qso->call) && !Holds(qso->call, "ERROR");
-    const bool marked = MarkedDuplicate(qso->row);
-    qso->doubled = qso->call.empty() || marked || repeated;
-    doubles += qso->doubled ? 1 : 0;
+  for (ValidatedQso& qso : std::views::reverse(qsos)) {
+    const bool repeated = later.contains(qso.call) && !Holds(qso.call, "ERROR");
+    const bool marked = MarkedDuplicate(qso.row);
+    qso.doubled = qso.call.empty() || marked || repeated;
+    doubles += qso.doubled ? 1 : 0;
     if (!marked) {
-      later.insert(qso->call);
+      later.insert(qso.call);
     }
   }
   return doubles;

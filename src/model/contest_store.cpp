@@ -177,7 +177,7 @@ bool ContestStore::RewriteWithout(const std::string& path,
 }
 
 std::string FiledName(std::string_view call) {
-  const std::string name = NameOfCall(call);
+  std::string name = NameOfCall(call);
   constexpr std::size_t kLongestPrefix = 4;      // with its "_"
   const std::size_t first = name.find('_') + 1;  // counted from 1; 0 for none
   const std::size_t last = name.rfind('_') + 1;

@@ -80,13 +80,15 @@ std::optional<std::string> ReadIfThere(FileSystem& files, const std::string& pat
 
 std::string FreeName(FileSystem& files, const std::string& source, const std::string& folder,
                      const std::string& name, const std::string& ending) {
+  const std::string prefix = folder + "/";
   std::string target = name + ending;
   for (int number = 2;; ++number) {
-    const auto there = ReadIfThere(files, folder + "/" + target);
+    const auto there = ReadIfThere(files, prefix + target);
     if (!there || *there == files.ReadAll(source)) {
       return target;
     }
-    target = name + " (" + std::to_string(number) + ")" + ending;
+    target = name;
+    target.append(" (").append(std::to_string(number)).append(")").append(ending);
   }
 }
 
