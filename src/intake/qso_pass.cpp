@@ -1,6 +1,5 @@
 #include "intake/qso_pass.h"
 
-#include <ranges>
 #include <unordered_set>
 #include <utility>
 
@@ -182,7 +181,8 @@ void QsoPass::AddUp(const ValidatedQso& qso) {
 int MarkDoubles(std::vector<ValidatedQso>& qsos) {
   int doubles = 0;
   std::unordered_set<std::string_view> later;  // calls of the QSOs behind the one in hand
-  for (ValidatedQso& qso : std::views::reverse(qsos)) {
+  for (std::size_t number = qsos.size(); number > 0; --number) {
+    ValidatedQso& qso = qsos[number - 1];
     const bool repeated = later.contains(qso.call) && !Holds(qso.call, "ERROR");
     const bool marked = MarkedDuplicate(qso.row);
     qso.doubled = qso.call.empty() || marked || repeated;
