@@ -126,7 +126,6 @@ void IntakePanel::Reset() {
   BecomeIdle();
   form_.ClearColours();
   form_.Marcafile.colour.reset();
-  form_.Inserimento_OK.visible = false;
   form_.Rookie.checked = false;
   form_.Young.checked = false;
   session_.operator_mark = OperatorMark::kNone;
@@ -222,6 +221,7 @@ void IntakePanel::BecomeIdle() {
 }
 
 void IntakePanel::BecomeLoaded() {
+  form_.Inserimento_OK.visible = false;
   form_.Marcafile.visible = true;
   form_.Marcafile.enabled = true;
   form_.Marcatura.enabled = true;

@@ -61,9 +61,9 @@ bool LogFiling::File() {
     }
     MoveLog();
     Finish();
-    log_.accepted = false;
-    log_.needs_category = false;
   });
+  log_.accepted = log_.accepted && !gone_;
+  log_.needs_category = log_.needs_category && !gone_;
   return gone_;
 }
 
@@ -201,9 +201,25 @@ void LogFiling::MoveLog() {
     manager_.Show(SamePlaceBox());
     return;
   }
+  SpareOtherLog(target);
   files_.Copy(log_.log_path, target);
   panel_.RemoveSource(log_);
   gone_ = true;
+}
+
+void LogFiling::SpareOtherLog(const std::string& target) {
+  const auto there = ReadIfThere(files_, target);
+  if (!there) {
+    return;
+  }
+  // The log takes the place of an older one of its call. Two calls may come to one name, though,
+  // and the log of another one is kept.
+  const std::string_view other = FindOwnCall(SplitLines(*there));
+  const std::string owner = Replaced(Replaced(Call12(other), '-', '/'), '_', '/');
+  if (!Trim(other).empty() && owner != log_.own_call) {
+    const std::string folder = session_.workspace.repeated_logs();
+    files_.Copy(target, folder + "/" + FreeName(files_, target, folder, log_.log_name));
+  }
 }
 
 void LogFiling::Finish() {

@@ -48,6 +48,7 @@ class LogFiling {
   void AppendClassification();
   void RemoveScratch();
   void MoveLog();
+  void SpareOtherLog(const std::string& target);
   void Finish();
   void AppendLine(StoreFile file, const std::string& row);
 

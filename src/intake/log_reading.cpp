@@ -132,8 +132,7 @@ bool LogReading::HasLogs() {
   form_.Inserire_log.enabled = false;
   form_.Inserire_log.checked = true;
   manager_.Show(NoLogsBox());
-  panel_.Clear();
-  form_.HideHeaderPanel();
+  panel_.Close();
   return false;
 }
 

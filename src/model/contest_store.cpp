@@ -129,11 +129,14 @@ Removal ContestStore::RemoveOwner(std::string_view call, std::string_view catego
 }
 
 void ContestStore::MoveBack(const std::string& name, std::string_view category) {
-  const std::string filed = Join(workspace_.category(category), "/", name);
+  // A log may have been filed under a name in small letters.
+  const std::string folder = workspace_.category(category);
+  const auto found = files_.List(folder, name);
   const std::string waiting = workspace_.to_insert();
-  if (!files_.StampOf(filed) && files_.StampOf(waiting + "/" + name)) {
+  if (found.empty() && !files_.List(waiting, name).empty()) {
     return;
   }
+  const std::string filed = folder + "/" + (found.empty() ? name : found.front());
   files_.Copy(filed, waiting + "/" + FreeName(files_, filed, waiting, name));
   files_.Remove(filed);
 }

@@ -208,6 +208,21 @@ TEST(LogFilingTest, ALogOfTheSameNameIsReplaced) {
   ExpectFiles(desk.workspace.Everything(), FirstStore());
 }
 
+// A prefix or suffix of a call does not stand in the name, so that two calls may come to one.
+TEST(LogFilingTest, TheLogOfAnotherCallOfThatNameIsKept) {
+  const std::string other = InsertableLog().Of("IK2QAA/P").Text();
+  const std::string older = InsertableLog().Of("IK2QAA").Row(26, "SAnte=dipole").Text();
+  for (const std::string& there : {other, older}) {
+    InsertionDesk desk;
+    desk.Waiting(kName, kGood).workspace.With(Join("Trofeo_Velmar/2IT/", kName), there);
+    desk.Read();
+    desk.main.Marcafile.Click();
+    EXPECT_EQ(desk.PlacesOf(kGood), Names{Join("Trofeo_Velmar/2IT/", kName)});
+    EXPECT_EQ(desk.PlacesOf(other),
+              there == other ? Names{Join("Trofeo_Velmar/Log doppi/", kName)} : Names{});
+  }
+}
+
 // A command that is pressed where no log waits for it leaves the store alone.
 TEST(LogFilingTest, NothingIsFiledThatWasNotAccepted) {
   const std::string self = InsertableLog().Qsos({ContestQso("IK2QAA", "JN45AA")}).Text();

@@ -58,6 +58,10 @@ TEST(LogTurboTest, ARunThatEndsWithARefusalFindsNoMoreLogs) {
   EXPECT_EQ(desk.manager.TakeFirstLines().back(), kNoLogs);
   EXPECT_EQ(Filed(desk), Names{"2IT_IK2QAA.edi"});
   EXPECT_FALSE(desk.main.Inserire_log.enabled);
+  for (const Control* control : std::initializer_list<Control*>{
+           &desk.main.caricaedi, &desk.main.turbo, &desk.main.File1, &desk.main.Callusato}) {
+    EXPECT_FALSE(control->visible) << control->name << ": the panel closes";
+  }
 }
 
 TEST(LogTurboTest, SomeRefusalsEndTheRun) {

@@ -209,6 +209,13 @@ TEST_F(RemovalTest, AnotherCategoryGivesItsLogBackAndNothingMore) {
   EXPECT_EQ(workspace.Everything(), after);
 }
 
+TEST_F(RemovalTest, ALogThatWasFiledInSmallLettersIsFound) {
+  fs::rename(At(kLog), At(kStore + "2IT_ik2qaa.edi"));
+  EXPECT_TRUE(store.RemoveOwner(kCall, "2IT", kMonth).rewritten);
+  EXPECT_EQ(workspace.Read(kWaiting), before[kLog]);
+  EXPECT_EQ(workspace.Read(kStore + "2IT_ik2qaa.edi"), "<missing>");
+}
+
 TEST_F(RemovalTest, WithoutItsLogNothingIsTouched) {
   EXPECT_THROW(store.RemoveOwner("IZ9ZZZ", "2IT", kMonth), RunTimeError);
   EXPECT_EQ(workspace.Everything(), before);
