@@ -16,6 +16,11 @@ constexpr std::size_t kMovesPerLook = 100;
 constexpr double kGoodPercent = 3;
 constexpr double kBadPercent = 5;
 
+/// The name of the log's file, as long as it is.
+std::string FileName(const IntakeState& log) {
+  return log.log_path.substr(log.log_path.rfind('/') + 1);
+}
+
 /// The values of several header rows behind one another.
 std::string Values(const IntakeState& log, std::size_t first, std::size_t count) {
   std::string values;
@@ -68,7 +73,7 @@ void IntakePanel::ListChosenFolder() {
 }
 
 std::string IntakePanel::CopyPath(const IntakeState& log, std::string_view extension) const {
-  const std::string& name = log.log_name;
+  const std::string name = FileName(log);
   const std::size_t stem = name.size() - std::min(name.size(), extension.size());
   return Join(session_.workspace.to_insert(), "/", Left(name, stem), extension);
 }
@@ -115,7 +120,7 @@ void IntakePanel::Move(const IntakeState& log, const std::string& target) {
 void IntakePanel::RemoveSource(const IntakeState& log) {
   files_.Remove(log.log_path);
   ++moved_since_look_;
-  const std::string name = log.log_path.substr(log.log_path.rfind('/') + 1);
+  const std::string name = FileName(log);
   if (!files_.StampOf(session_.workspace.to_insert() + "/" + name)) {
     std::erase(waiting_, name);
   }
