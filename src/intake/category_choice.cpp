@@ -28,7 +28,6 @@ CategoryChoice::Verdict CategoryChoice::Test(IntakeState& log) {
   if (!admitted || (log.category != kCategory && log.category != kEveryCategory)) {
     return Ask(log, admitted);
   }
-  log.band_code = kBandCode;
   form_.newcate.value = kCategory;
   return Verdict::kFits;
 }
@@ -58,9 +57,8 @@ CategoryChoice::Verdict CategoryChoice::Ask(IntakeState& log, bool admitted) {
 
 void CategoryChoice::Update(IntakeState& log) {
   log.category = form_.newcate.value;
-  if (log.category == kCategory || log.category == kEveryCategory || log.category.empty()) {
-    log.band_code = kBandCode;
-  }
+  const bool band_known =
+      log.category == kCategory || log.category == kEveryCategory || log.category.empty();
   const std::string text = files_.ReadAll(log.log_path);
   std::string changed;
   LineReader reader(text);
@@ -68,22 +66,15 @@ void CategoryChoice::Update(IntakeState& log) {
     const std::string capitals = Upper(line);
     if (Holds(capitals, "PSECT=")) {
       changed += Join("PSect=", log.category, kLineEnd);
-    } else if (Holds(capitals, "PBAND=") && !log.band_code.empty()) {
-      changed += Join("PBand=", log.band_code, kLineEnd);
+    } else if (Holds(capitals, "PBAND=") && band_known) {
+      changed += Join("PBand=", kBandCode, kLineEnd);
     } else if (!line.empty()) {
       changed += Join(line, kLineEnd);
     }
   }
   files_.WriteAll(log.log_path, changed);
-  form_.nome_sez.caption.clear();
-  form_.cod_sez.caption.clear();
-  for (Control* field :
-       std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
-    field->colour = colour::kGreen;
-  }
   log.needs_category = false;
-  form_.caricaedi.visible = true;
-  form_.Marcafile.visible = false;
+  panel_.TakeNewCategory();
 }
 
 }  // namespace velmar

@@ -130,7 +130,6 @@ void IntakePanel::RemoveSource(const IntakeState& log) {
 void IntakePanel::Reset() {
   BecomeIdle();
   form_.ClearColours();
-  form_.Marcafile.colour.reset();
   form_.Rookie.checked = false;
   form_.Young.checked = false;
   session_.operator_mark = OperatorMark::kNone;
@@ -271,15 +270,27 @@ void IntakePanel::OpenMenus() {
 }
 
 void IntakePanel::AwaitCategory() {
-  for (Control* control :
-       std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
-    control->colour = colour::kRed;
-  }
+  ColourCategory(colour::kRed);
   form_.Aggiorna.visible = true;
   form_.Aggiorna.enabled = true;
   form_.aggiorna_categoria.enabled = true;
   form_.caricaedi.visible = false;
   form_.Marcafile.visible = false;
+}
+
+void IntakePanel::TakeNewCategory() {
+  form_.nome_sez.caption.clear();
+  form_.cod_sez.caption.clear();
+  ColourCategory(colour::kGreen);
+  form_.caricaedi.visible = true;
+  form_.Marcafile.visible = false;
+}
+
+void IntakePanel::ColourCategory(int colour) {
+  for (Control* field :
+       std::initializer_list<Control*>{&form_.categoria, &form_.frequenza, &form_.newcate}) {
+    field->colour = colour;
+  }
 }
 
 void IntakePanel::Close() {

@@ -67,6 +67,7 @@ class IntakePanel {
   void LockMenus();
   void OpenMenus();  ///< after a filing: there is a classification now
   void AwaitCategory();
+  void TakeNewCategory();  ///< the log has it, and is to be read again
   void Close();
 
  private:
@@ -74,6 +75,7 @@ class IntakePanel {
   std::string CopyPath(const IntakeState& log, std::string_view extension) const;
   void Move(const IntakeState& log, const std::string& target);
   void UnlockMenus();
+  void ColourCategory(int colour);
   std::array<Menu*, 5> LockedMenus();
 
   ContestSession& session_;

@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "model/store_rows.h"
-
 namespace velmar {
 
 /// A QSO row as the pass over the rows saw it; all empty for a row that it passed over.
@@ -62,18 +60,16 @@ struct IntakeState {
   std::string own_locator;  ///< in capitals, as long as it is
   std::string category;     ///< as declared
   double frequency = 0;     ///< MHz
-  std::string band_code;
-  std::string section;  ///< of the operator
-  double power = 0;     ///< W
+  std::string section;      ///< of the operator
+  double power = 0;         ///< W
   std::string antenna;
   std::string height;         ///< m above sea level, digits
   std::string shown_height;   ///< with the height above ground, as declared
   bool height_wrong = false;  ///< it was no number
   std::string declared_qsos;  ///< valid ones, as text
   std::string declared_points;
-  std::string dx_call;
-  std::string dx_distance;
-  DxClaim dx;
+  std::string dx_call;      ///< of the farthest QSO, as declared
+  std::string dx_distance;  ///< km, as declared
   bool needs_category = false;
 
   bool accepted = false;  ///< every test is passed: the log waits to be filed

@@ -1,7 +1,5 @@
 #include "intake/log_filing.h"
 
-#include <algorithm>
-
 #include "intake/insertion_messages.h"
 #include "intake/pass_messages.h"
 #include "model/classification_row.h"
@@ -99,7 +97,6 @@ void LogFiling::WriteStore() {
   step_ = 3;
   AppendSums();
   form_.perc_mem.caption = std::to_string(store_.LibraryLines(log_.code));
-  form_.Marcafile.colour.reset();
   step_ = 4;
   AppendLibraries();
   step_ = 5;
@@ -189,7 +186,6 @@ void LogFiling::AppendClassification() {
 void LogFiling::RemoveScratch() {
   panel_.BecomeIdle();
   panel_.RemoveCopies(log_);
-  form_.Aggiorna.colour.reset();
   form_.Aggiorna.enabled = false;
   form_.aggiorna_categoria.enabled = false;
 }
@@ -240,8 +236,8 @@ void LogFiling::Finish() {
   }
   AppendLine(StoreFile::kStatisticaDx, StatisticaDxRow(log_.code, log_.own_call, log_.own_locator,
                                                        {.locator = log_.totals.best_locator,
-                                                        .call = log_.dx.call,
-                                                        .distance = log_.dx.distance}));
+                                                        .call = log_.dx_call,
+                                                        .distance = log_.dx_distance}));
   // Last, so that a crash ahead of it leaves a log that the next read finds inserted already.
   AppendLine(StoreFile::kPartecipanti, PartecipanteRow(log_.own_call, log_.own_locator, log_.code));
 }

@@ -14,13 +14,12 @@ namespace {
 constexpr double kMostPower = 500;  ///< W
 constexpr std::size_t kDatesWidth = 17;
 constexpr std::size_t kDateSplit = 9;  ///< where the dates part when no ";" does, from 1
-constexpr std::size_t kAntennaWidth = 20;
 constexpr std::size_t kQsosWidth = 5;
-constexpr std::size_t kDxCallWidth = 10;
 constexpr std::size_t kRemarkRows = 4;
 constexpr std::size_t kBareRemarksRow = 9;  ///< length of a row "[Remarks]"
 constexpr std::string_view kSuffixMarks = "/-_";
 
+/// The keys that are looked for on insertion, in their order.
 constexpr std::array kKeys = {
     HeaderKey{2, "TName", " problemi : alla riga 2 ci deve essere il nome contest  < TName >   ",
               false},
@@ -99,17 +98,12 @@ std::optional<ValueFault> TakeDx(IntakeState& state) {
   if (parts.size() != 3) {
     return ValueFault::kBadDx;
   }
-  state.dx_call = Pad(parts[0], kDxCallWidth);
+  state.dx_call = parts[0];
   state.dx_distance = Trim(parts[2]);
-  state.dx = {.locator = {}, .call = parts[0], .distance = state.dx_distance};
   return std::nullopt;
 }
 
 }  // namespace
-
-std::span<const HeaderKey> HeaderKeys() {
-  return kKeys;
-}
 
 std::vector<const HeaderKey*> MissingKeys(const IntakeState& state) {
   std::vector<const HeaderKey*> missing;
@@ -144,7 +138,7 @@ void TakeStation(IntakeState& state) {
   state.frequency = Val(HeaderValue(state, header_row::kBand));
   const std::string power = Replaced(HeaderValue(state, header_row::kPower), ',', '.');
   state.power = std::min(Val(power), kMostPower);
-  state.antenna = Pad(HeaderValue(state, header_row::kAntenna), kAntennaWidth);
+  state.antenna = HeaderValue(state, header_row::kAntenna);
   TakeHeights(state);
 }
 

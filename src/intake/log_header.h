@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,9 +17,6 @@ struct HeaderKey {
   std::string_view message;  ///< what the manager reads ahead of what was found
   bool ends_checks;          ///< the rows behind it are not looked at where it is missing
 };
-
-/// The keys of the header that are looked for on insertion, in their order.
-std::span<const HeaderKey> HeaderKeys();
 
 /// The keys that are not where they must be, up to the one that ends the checks.
 std::vector<const HeaderKey*> MissingKeys(const IntakeState& state);

@@ -19,7 +19,6 @@ constexpr std::size_t kLongestPrefix = 4;  ///< with its separator
 constexpr std::size_t kMostLines = 370'000;
 constexpr std::string_view kNoLog = "Log non valido";
 constexpr std::string_view kNoCall = "call non valido";
-constexpr std::string_view kNameEnd = ".edi";
 constexpr std::size_t kLongestReason = 100;
 
 /// What is taken out of a call, in this order.
@@ -113,7 +112,7 @@ void TakeBand(LogIdentity& log, const std::vector<std::string_view>& header, std
 void Name(LogIdentity& log) {
   log.text = RTrim(SeparatorsUnified(log.text));
   log.text = log.text.substr(0, log.text.find('\t'));
-  log.new_name = log.valid ? Join(kCategory, "_", log.text, kNameEnd) : SetAsideName(log.text);
+  log.new_name = log.valid ? LogName(kCategory, log.text) : SetAsideName(log.text);
 }
 
 }  // namespace
@@ -165,20 +164,17 @@ std::string SetAsideName(std::string_view text) {
   std::string fit(Left(text, kLongestReason));
   std::ranges::replace_if(
       fit, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-  return Join(kSetAsideMark, "_", fit, kNameEnd);
+  return LogName(kSetAsideMark, fit);
 }
 
 std::string WithSection(std::string_view log, std::string_view section) {
+  const std::string declared = Join("PSect=", Upper(section));
   std::string changed;
   changed.reserve(log.size());
   LineReader reader(log);
   for (std::string_view line; reader.Next(line);) {
-    if (Holds(line, "=") && Holds(Upper(line), "PSECT=")) {
-      changed += Join("PSect=", Upper(section));
-    } else {
-      changed += line;
-    }
-    changed += kLineEnd;
+    const bool declares = Holds(line, "=") && Holds(Upper(line), "PSECT=");
+    AddLine(changed, declares ? declared : line);
   }
   return changed;
 }

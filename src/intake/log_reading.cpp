@@ -1,5 +1,7 @@
 #include "intake/log_reading.h"
 
+#include <algorithm>
+
 #include "intake/insertion_messages.h"
 #include "intake/log_lines.h"
 #include "model/edi_log.h"

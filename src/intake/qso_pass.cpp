@@ -67,7 +67,6 @@ QsoPass::QsoPass(IntakeState& state, bool test_run,
       test_run_(test_run),
       on_problem_(std::move(on_problem)),
       on_qso_(std::move(on_qso)),
-      own_locator_(state.own_locator),
       own_(LocatorPosition(Loc6(state.own_locator))) {}
 
 bool QsoPass::Take(const std::string& row) {
@@ -152,7 +151,7 @@ QsoFault QsoPass::TestTime(std::string_view time) const {
 
 bool QsoPass::Measure(ValidatedQso& qso) {
   std::string locator = qso.locator;
-  if (locator == own_locator_) {
+  if (locator == state_.own_locator) {
     qso.distance = 1;
     return true;
   }

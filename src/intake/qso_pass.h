@@ -67,7 +67,6 @@ class QsoPass {
   bool test_run_;
   std::function<void(const QsoProblem& problem)> on_problem_;
   std::function<void(const ValidatedQso& qso, char mode)> on_qso_;
-  std::string own_locator_;
   Position own_;
   QsoProblem problem_{};
   char mode_ = ' ';

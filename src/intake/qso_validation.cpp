@@ -6,6 +6,7 @@
 #include "model/edi_log.h"
 #include "model/error_list.h"
 #include "model/lines.h"
+#include "model/store_rows.h"
 #include "model/text.h"
 #include "platform/error.h"
 
@@ -53,8 +54,9 @@ void QsoValidation::Run(IntakeState& log) {
     manager_.Show(OwnLocatorBox(false));
     throw ProgramEnd();
   }
-  if (!TestRows(log, found.rows)) {
-    return;
+  const QsoFault last = TestRows(log, found.rows);
+  if (last != QsoFault::kNone && last != QsoFault::kSelf) {
+    return;  // the log is refused, or will be
   }
   if (log.invalid) {
     Fail(log);
@@ -63,8 +65,8 @@ void QsoValidation::Run(IntakeState& log) {
   }
 }
 
-/// False when nothing more is to be done about the log here.
-bool QsoValidation::TestRows(IntakeState& log, const std::vector<std::string>& rows) {
+/// Takes the rows up to the one that ends the pass, and gives its fault.
+QsoFault QsoValidation::TestRows(IntakeState& log, const std::vector<std::string>& rows) {
   QsoFault last = QsoFault::kNone;
   QsoPass pass(
       log, form_.Testlog.checked,
@@ -75,10 +77,10 @@ bool QsoValidation::TestRows(IntakeState& log, const std::vector<std::string>& r
       [&](const ValidatedQso& qso, char mode) { AddCwQso(log, qso, mode); });
   for (const std::string& row : rows) {
     if (!pass.Take(row)) {
-      return last == QsoFault::kSelf;
+      return last;
     }
   }
-  return true;
+  return QsoFault::kNone;
 }
 
 void QsoValidation::TakeProblem(IntakeState& log, const QsoProblem& problem) {

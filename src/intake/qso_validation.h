@@ -30,7 +30,7 @@ class QsoValidation {
 
  private:
   void Run(IntakeState& log);
-  bool TestRows(IntakeState& log, const std::vector<std::string>& rows);
+  QsoFault TestRows(IntakeState& log, const std::vector<std::string>& rows);
   void TakeProblem(IntakeState& log, const QsoProblem& problem);
   void AddCwQso(IntakeState& log, const ValidatedQso& qso, char mode);
   void Close(IntakeState& log);

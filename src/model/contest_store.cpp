@@ -119,7 +119,7 @@ std::size_t ContestStore::LibraryLines(std::string_view category) {
 
 Removal ContestStore::RemoveOwner(std::string_view call, std::string_view category,
                                   std::string_view month) {
-  MoveBack(Join(category, "_", FiledName(call), ".edi"), category);
+  MoveBack(LogName(category, FiledName(call)), category);
   Removal removal;
   if (category == kCategory) {
     RemoveRows(RTrim(call), category, month, removal);

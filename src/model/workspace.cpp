@@ -30,6 +30,10 @@ std::string Workspace::error_list(std::string_view code, std::string_view call,
               ".err");
 }
 
+std::string LogName(std::string_view category, std::string_view call) {
+  return Join(category, "_", call, ".edi");
+}
+
 std::string NameOfCall(std::string_view call) {
   return Replaced(Trim(call), '/', '_');
 }

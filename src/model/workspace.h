@@ -35,6 +35,9 @@ enum class StoreFile {
 /// The name under which a log is filed and a file of its own is made: "/" can't stand in it.
 std::string NameOfCall(std::string_view call);
 
+/// The file name of a log that can be inserted, of the call as its name has it.
+std::string LogName(std::string_view category, std::string_view call);
+
 /// The folders and files of the program, by their fixed names: blanks and capitals belong to them.
 /// What a log is called on its way is told where it is named or refused.
 class Workspace {

@@ -117,7 +117,7 @@ TEST(LogHeaderTest, TheStation) {
   IntakeState state = Taken(InsertableLog().Row(9, "PSect=2IT  ").Row(26, "SAnte=9 el yagi"));
   TakeStation(state);
   EXPECT_EQ(state.category, "2IT");
-  EXPECT_EQ(state.antenna, "9 el yagi           ");
+  EXPECT_EQ(state.antenna, "9 el yagi");
 }
 
 TEST(LogHeaderTest, TheHeightAboveSeaLevelIsDigitsOrZero) {
@@ -181,10 +181,10 @@ TEST(LogHeaderTest, WhatTheLogDeclares) {
                                    {29, "-1633", kBadPoints, ""},
                                    {36, "", kNoTotal, ""},
                                    {36, "mille", {}, ""},
-                                   {37, "", {}, "          |"},
-                                   {37, ";;", {}, "          |"},
-                                   {37, "IT9XYZ;JM67AA; 812 ", {}, "IT9XYZ    |812"},
-                                   {37, "IT9XYZ/PORTABLE;;", {}, "IT9XYZ/POR|"},
+                                   {37, "", {}, "|"},
+                                   {37, ";;", {}, "|"},
+                                   {37, "IT9XYZ;JM67AA; 812 ", {}, "IT9XYZ|812"},
+                                   {37, "IT9XYZ/PORTABLE;;", {}, "IT9XYZ/PORTABLE|"},
                                    {37, "IT9XYZ", kBadDx, ""},
                                    {37, "IT9XYZ;JM67AA", kBadDx, ""},
                                    {37, "IT9XYZ;JM67AA;8;", kBadDx, ""}}) {
