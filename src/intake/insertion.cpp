@@ -4,9 +4,10 @@ namespace velmar {
 
 Insertion::Insertion(ContestSession& session, FileSystem& files, Manager& manager,
                      ContestStore& store, MonthAssignment& months, MainForm& form)
-    : panel_(session, files, form),
-      filing_(session, files, manager, store, panel_, form, log_),
-      reading_(session, files, manager, store, months, panel_, form, filing_, log_) {
+    : folder_(session, files, form),
+      panel_(session, form),
+      filing_(session, files, manager, store, folder_, panel_, form, log_),
+      reading_(session, files, manager, store, months, folder_, panel_, form, filing_, log_) {
   for (Control* control : std::initializer_list<Control*>{&form.caricaedi, &form.apri}) {
     control->on_click = [this] { reading_.caricaedi_Click(); };
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "intake/intake_folder.h"
 #include "intake/intake_panel.h"
 #include "intake/intake_state.h"
 #include "intake/log_filing.h"
@@ -18,6 +19,7 @@ class Insertion {
 
  private:
   IntakeState log_;
+  IntakeFolder folder_;
   IntakePanel panel_;
   LogFiling filing_;
   LogReading reading_;

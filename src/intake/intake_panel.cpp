@@ -11,15 +11,8 @@ namespace velmar {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> kScratch = {"*.ED2", "*.ED3"};
-constexpr std::size_t kMovesPerLook = 100;
 constexpr double kGoodPercent = 3;
 constexpr double kBadPercent = 5;
-
-/// The name of the log's file, as long as it is.
-std::string FileName(const IntakeState& log) {
-  return log.log_path.substr(log.log_path.rfind('/') + 1);
-}
 
 /// The values of several header rows behind one another.
 std::string Values(const IntakeState& log, std::size_t first, std::size_t count) {
@@ -42,90 +35,6 @@ std::string Shown(double number) {
 }
 
 }  // namespace
-
-void IntakePanel::Refresh() {
-  moved_since_look_ = 0;
-  changes_expected_ = false;
-  waiting_ = files_.List(session_.workspace.to_insert(), "*.*");
-  std::erase_if(waiting_, [this](const std::string& name) {
-    const bool scratch = std::ranges::any_of(
-        kScratch, [&](std::string_view pattern) { return MatchesPattern(name, pattern); });
-    if (scratch) {
-      RemoveIfThere(files_, session_.workspace.to_insert() + "/" + name);
-    }
-    return scratch;
-  });
-  ListChosenFolder();
-}
-
-void IntakePanel::RefreshNowAndThen() {
-  if (changes_expected_ || moved_since_look_ >= kMovesPerLook || waiting_.empty()) {
-    Refresh();
-  }
-}
-
-void IntakePanel::ListChosenFolder() {
-  if (form_.Dir1.value.empty() || form_.Dir1.value == session_.workspace.to_insert()) {
-    form_.ShowFiles(session_.workspace.to_insert(), waiting_);
-  } else {
-    form_.ListFiles(files_, form_.Dir1.value);
-  }
-}
-
-std::string IntakePanel::CopyPath(const IntakeState& log, std::string_view extension) const {
-  const std::string name = FileName(log);
-  const std::size_t stem = name.size() - std::min(name.size(), extension.size());
-  return Join(session_.workspace.to_insert(), "/", Left(name, stem), extension);
-}
-
-std::string IntakePanel::LineCopyPath(const IntakeState& log) const {
-  return CopyPath(log, ".ED2");
-}
-
-std::string IntakePanel::RowCopyPath(const IntakeState& log) const {
-  return CopyPath(log, ".ED3");
-}
-
-void IntakePanel::RemoveCopies(const IntakeState& log) {
-  if (!log.log_name.empty()) {
-    RemoveIfThere(files_, LineCopyPath(log));
-    RemoveIfThere(files_, RowCopyPath(log));
-  }
-}
-
-void IntakePanel::RemoveRowCopies() {
-  RemoveMatching(files_, session_.workspace.to_insert(), kScratch.back());
-}
-
-void IntakePanel::Refuse(const IntakeState& log, Refusal refusal) {
-  const RefusedName name = NameOfRefused(log, refusal);
-  const std::string folder = session_.workspace.to_check_again();
-  Move(log, folder + "/" + FreeName(files_, log.log_path, folder, name.stem, name.suffix));
-  Clear();
-  BecomeIdle();
-}
-
-void IntakePanel::SetAsRepeated(const IntakeState& log) {
-  const std::string folder = session_.workspace.repeated_logs();
-  Move(log, folder + "/" + FreeName(files_, log.log_path, folder, log.log_name));
-}
-
-void IntakePanel::Move(const IntakeState& log, const std::string& target) {
-  if (!SameFile(files_, log.log_path, target)) {
-    files_.Copy(log.log_path, target);
-    RemoveSource(log);
-  }
-}
-
-void IntakePanel::RemoveSource(const IntakeState& log) {
-  files_.Remove(log.log_path);
-  ++moved_since_look_;
-  const std::string name = FileName(log);
-  if (!files_.StampOf(session_.workspace.to_insert() + "/" + name)) {
-    std::erase(waiting_, name);
-  }
-  form_.ForgetFile(name);
-}
 
 void IntakePanel::Reset() {
   BecomeIdle();
@@ -222,6 +131,11 @@ void IntakePanel::BecomeIdle() {
   form_.Marcafile.visible = false;
   form_.Marcatura.enabled = false;
   UnlockMenus();
+}
+
+void IntakePanel::Drop() {
+  Clear();
+  BecomeIdle();
 }
 
 void IntakePanel::BecomeLoaded() {

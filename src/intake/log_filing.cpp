@@ -26,7 +26,7 @@ void LogFiling::Marcafile_Click() {
   if (!log_.accepted && !log_.needs_category) {
     return;  // a hot key while there is nothing to file
   }
-  Trap([&] { panel_.Refresh(); });
+  Trap([&] { folder_.Refresh(); });
   File();
 }
 
@@ -80,8 +80,8 @@ bool LogFiling::TurnAwayRepeated() {
   manager_.Show(AlreadyInsertedBox());
   panel_.BecomeIdle();
   form_.Aggiorna.enabled = false;
-  panel_.RemoveRowCopies();
-  panel_.SetAsRepeated(log_);
+  folder_.RemoveRowCopies();
+  folder_.MoveToRepeated(log_);
   return true;
 }
 
@@ -93,7 +93,7 @@ void LogFiling::WriteStore() {
     copy += owner;
     AddLine(copy, log_.Row(line));
   }
-  files_.WriteAll(panel_.LineCopyPath(log_), copy);
+  files_.WriteAll(folder_.LineCopyPath(log_), copy);
   step_ = 3;
   AppendSums();
   form_.perc_mem.caption = std::to_string(store_.LibraryLines(log_.code));
@@ -185,7 +185,7 @@ void LogFiling::AppendClassification() {
 
 void LogFiling::RemoveScratch() {
   panel_.BecomeIdle();
-  panel_.RemoveCopies(log_);
+  folder_.RemoveCopies(log_);
   form_.Aggiorna.enabled = false;
   form_.aggiorna_categoria.enabled = false;
 }
@@ -199,7 +199,7 @@ void LogFiling::MoveLog() {
   }
   SpareOtherLog(target);
   files_.Copy(log_.log_path, target);
-  panel_.RemoveSource(log_);
+  folder_.RemoveSource(log_);
   gone_ = true;
 }
 
@@ -230,8 +230,8 @@ void LogFiling::Finish() {
   form_.Inserimento_OK.visible = true;
   form_.focus = &form_.caricaedi;
   session_.log_inserted_since_load = true;
-  panel_.RefreshNowAndThen();
-  if (panel_.waiting().empty()) {
+  folder_.RefreshNowAndThen();
+  if (folder_.waiting().empty()) {
     panel_.Close();
   }
   AppendLine(StoreFile::kStatisticaDx, StatisticaDxRow(log_.code, log_.own_call, log_.own_locator,

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "intake/intake_folder.h"
 #include "intake/intake_panel.h"
 #include "intake/intake_state.h"
 #include "model/contest_store.h"
@@ -18,11 +19,12 @@ namespace velmar {
 class LogFiling {
  public:
   LogFiling(ContestSession& session, FileSystem& files, Manager& manager, ContestStore& store,
-            IntakePanel& panel, MainForm& form, IntakeState& log)
+            IntakeFolder& folder, IntakePanel& panel, MainForm& form, IntakeState& log)
       : session_(session),
         files_(files),
         manager_(manager),
         store_(store),
+        folder_(folder),
         panel_(panel),
         form_(form),
         log_(log) {}
@@ -56,6 +58,7 @@ class LogFiling {
   FileSystem& files_;
   Manager& manager_;
   ContestStore& store_;
+  IntakeFolder& folder_;
   IntakePanel& panel_;
   MainForm& form_;
   IntakeState& log_;

@@ -50,24 +50,25 @@ Refusal RefusalFor(ValueFault fault) {
 }  // namespace
 
 LogReading::LogReading(ContestSession& session, FileSystem& files, Manager& manager,
-                       ContestStore& store, MonthAssignment& months, IntakePanel& panel,
-                       MainForm& form, LogFiling& filing, IntakeState& log)
+                       ContestStore& store, MonthAssignment& months, IntakeFolder& folder,
+                       IntakePanel& panel, MainForm& form, LogFiling& filing, IntakeState& log)
     : session_(session),
       files_(files),
       manager_(manager),
       store_(store),
       months_(months),
+      folder_(folder),
       panel_(panel),
       form_(form),
       filing_(filing),
       log_(log),
-      validation_(session, files, manager, store, panel, form),
+      validation_(session, files, manager, store, folder, panel, form),
       category_(files, manager, panel, form),
       last_folder_(session.workspace.to_insert()) {}
 
 void LogReading::caricaedi_Click() {
   at_start_ = 0;
-  panel_.ExpectChanges();
+  folder_.ExpectChanges();
   while (ReadNext() && form_.turbo.checked) {
   }
   form_.Bar1.visible = false;
@@ -89,14 +90,13 @@ void LogReading::Trap(const std::function<void()>& procedure) {
       return;
     }
     manager_.Show(LogTroubleBox());
-    panel_.Clear();
-    panel_.BecomeIdle();
+    panel_.Drop();
   }
 }
 
 void LogReading::Read() {
-  panel_.RemoveCopies(log_);
-  panel_.RefreshNowAndThen();
+  folder_.RemoveCopies(log_);
+  folder_.RefreshNowAndThen();
   if (!HasLogs()) {
     return;
   }
@@ -119,7 +119,7 @@ void LogReading::Read() {
 void LogReading::ShowProgress() {
   form_.Bar1.visible = form_.turbo.checked;
   if (form_.turbo.checked) {
-    const std::size_t left = panel_.waiting().size();
+    const std::size_t left = folder_.waiting().size();
     at_start_ = std::max(at_start_, left);
     form_.Bar1.maximum = at_start_;
     form_.Bar1.value = std::to_string(at_start_ - left);
@@ -128,7 +128,7 @@ void LogReading::ShowProgress() {
 }
 
 bool LogReading::HasLogs() {
-  if (!panel_.waiting().empty()) {
+  if (!folder_.waiting().empty()) {
     return true;
   }
   form_.Inserire_log.enabled = false;
@@ -324,7 +324,7 @@ bool LogReading::LastChecksPass() {
     return false;
   }
   if (log_.invalid) {
-    panel_.RemoveRowCopies();
+    folder_.RemoveRowCopies();
     Refuse(Refusal::kInvalid);
     return false;
   }
@@ -378,7 +378,8 @@ void LogReading::FileAtOnce() {
 }
 
 void LogReading::Refuse(Refusal refusal) {
-  panel_.Refuse(log_, refusal);
+  folder_.MoveToRefused(log_, refusal);
+  panel_.Drop();
   gone_ = true;
 }
 

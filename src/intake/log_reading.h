@@ -5,6 +5,7 @@
 #include <string>
 
 #include "intake/category_choice.h"
+#include "intake/intake_folder.h"
 #include "intake/intake_panel.h"
 #include "intake/intake_state.h"
 #include "intake/log_filing.h"
@@ -24,8 +25,8 @@ namespace velmar {
 class LogReading {
  public:
   LogReading(ContestSession& session, FileSystem& files, Manager& manager, ContestStore& store,
-             MonthAssignment& months, IntakePanel& panel, MainForm& form, LogFiling& filing,
-             IntakeState& log);
+             MonthAssignment& months, IntakeFolder& folder, IntakePanel& panel, MainForm& form,
+             LogFiling& filing, IntakeState& log);
 
   /// Reads a log; in turbo mode reads and files all of them, up to one that stays.
   void caricaedi_Click();
@@ -68,6 +69,7 @@ class LogReading {
   Manager& manager_;
   ContestStore& store_;
   MonthAssignment& months_;
+  IntakeFolder& folder_;
   IntakePanel& panel_;
   MainForm& form_;
   LogFiling& filing_;

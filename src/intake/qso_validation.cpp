@@ -44,7 +44,7 @@ void QsoValidation::Run(IntakeState& log) {
   const QsoRows found = CollectQsoRows(files_.ReadAll(log.log_path));
   log.totals.lines = found.lines;
   log.totals.rows = static_cast<int>(found.rows.size());
-  files_.WriteAll(panel_.RowCopyPath(log), AsFile(found.rows));
+  files_.WriteAll(folder_.RowCopyPath(log), AsFile(found.rows));
   if (found.rows.empty()) {
     manager_.Show(NoRowsBox());
     log.invalid = true;
@@ -85,17 +85,13 @@ QsoFault QsoValidation::TestRows(IntakeState& log, const std::vector<std::string
 
 void QsoValidation::TakeProblem(IntakeState& log, const QsoProblem& problem) {
   manager_.Show(ProblemBox(log, problem));
-  const auto refuse = [&](Refusal refusal) {
-    panel_.Refuse(log, refusal);
-    log.pass_failed = true;
-  };
   switch (problem.fault) {
     case QsoFault::kEarly:
-      return refuse(Refusal::kEarly);
+      return Refuse(log, Refusal::kEarly);
     case QsoFault::kLate:
-      return refuse(Refusal::kLate);
+      return Refuse(log, Refusal::kLate);
     case QsoFault::kTimeFormat:
-      return refuse(Refusal::kTimeFormat);
+      return Refuse(log, Refusal::kTimeFormat);
     case QsoFault::kNoMode:
       return store_.Append(StoreFile::kControlLog, log.code,
                            Join(ControlLogRow(log.own_call), kLineEnd));
@@ -133,7 +129,12 @@ void QsoValidation::Close(IntakeState& log) {
   }
   manager_.Show(RowCountBox(log));
   form_.StopTurbo();
-  panel_.Refuse(log, Refusal::kRowCount);
+  Refuse(log, Refusal::kRowCount);
+}
+
+void QsoValidation::Refuse(IntakeState& log, Refusal refusal) {
+  folder_.MoveToRefused(log, refusal);
+  panel_.Drop();
   log.pass_failed = true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "intake/intake_folder.h"
 #include "intake/intake_panel.h"
 #include "intake/intake_state.h"
 #include "intake/qso_pass.h"
@@ -15,11 +16,12 @@ namespace velmar {
 class QsoValidation {
  public:
   QsoValidation(ContestSession& session, FileSystem& files, Manager& manager, ContestStore& store,
-                IntakePanel& panel, MainForm& form)
+                IntakeFolder& folder, IntakePanel& panel, MainForm& form)
       : session_(session),
         files_(files),
         manager_(manager),
         store_(store),
+        folder_(folder),
         panel_(panel),
         form_(form) {}
 
@@ -35,12 +37,14 @@ class QsoValidation {
   void AddCwQso(IntakeState& log, const ValidatedQso& qso, char mode);
   void Close(IntakeState& log);
   void StartErrorList(const IntakeState& log, double declared);
+  void Refuse(IntakeState& log, Refusal refusal);
   void Fail(IntakeState& log);
 
   ContestSession& session_;
   FileSystem& files_;
   Manager& manager_;
   ContestStore& store_;
+  IntakeFolder& folder_;
   IntakePanel& panel_;
   MainForm& form_;
 };

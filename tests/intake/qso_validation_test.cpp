@@ -31,8 +31,9 @@ std::string CwQsosOf(const std::string& category, const std::string& section, In
   log.own_locator = "JN45AA";
   log.category = log.code = category;
   log.section = section;
-  IntakePanel panel(desk.session, desk.files, desk.main);
-  QsoValidation(desk.session, desk.files, desk.manager, desk.store, panel, desk.main)
+  IntakeFolder folder(desk.session, desk.files, desk.main);
+  IntakePanel panel(desk.session, desk.main);
+  QsoValidation(desk.session, desk.files, desk.manager, desk.store, folder, panel, desk.main)
       .ValidateQsos(log);
   EXPECT_FALSE(log.invalid || log.pass_failed);
   EXPECT_EQ(log.own_call, "IK2QAA/P    ");
