@@ -246,28 +246,6 @@ TEST(SampleContest, SilentStationsAreWorkedByTwoAcceptedLogs) {
   }
 }
 
-TEST(SampleContest, HeaderRowsStandAtTheirNumbers) {
-  static constexpr std::array<std::string_view, 37> kKeys = {
-      "[REG1", "TNAME", "TDATE", "PCALL", "PWWLO", "PEXCH", "PADR1", "PADR2", "PSECT", "PBAND",
-      "PCLUB", "RNAME", "RCALL", "RADR1", "RADR2", "RPOCO", "RCITY", "RCOUN", "RPHON", "RHBBS",
-      "MOPE1", "MOPE2", "STXEQ", "SPOWE", "SRXEQ", "SANTE", "SANTH", "CQSOS", "CQSOP", "CWWLS",
-      "CWWLB", "CEXCS", "CEXCB", "CDXCS", "CDXCB", "CTOSC", "CODXC"};
-  for (const auto& [call, log] : Middle().logs) {
-    for (std::size_t row = 1; row <= kKeys.size(); ++row) {
-      EXPECT_EQ(ParseHeaderRow(log.Header(row)).key, kKeys[row - 1]) << call;
-    }
-    EXPECT_EQ(log.Header(38), "[Remarks]");
-    EXPECT_TRUE(log.Header(3) == "TDate=20250119;20250119");
-    for (const auto& [row, key] :
-         {std::pair(6, "PExch="), std::pair(9, "PSect="), std::pair(10, "PBand="),
-          std::pair(11, "PClub="), std::pair(24, "SPowe=")}) {
-      EXPECT_TRUE(log.Header(static_cast<std::size_t>(row)).starts_with(key)) << call;
-    }
-    const std::string count = Join("[QSORecords;", log.rows.size(), "]");
-    EXPECT_EQ(std::ranges::count(log.edi.lines, count), 1) << call;
-  }
-}
-
 TEST(SampleContest, BestDxIsTheFarthestQsoThatCounts) {
   for (const auto& [call, log] : Middle().logs) {
     int farthest = 0;
