@@ -117,53 +117,67 @@ void Renaming::rinomina_Click() {
   Trap([&] { RefreshLists(); });
 }
 
-/// Puts the lines of all logs in order, and gives the names of those that begin as a log does.
-std::vector<std::string> Renaming::TidyLogs() {
+/// Puts the lines of all logs in order, and gives those that begin as a log does.
+std::vector<Renaming::Entry> Renaming::TidyLogs() {
   RefreshLists();
-  auto logs = form_.source.items.rows();
-  form_.progress.maximum = 2 * logs.size();
-  std::size_t done = 0;
-  std::erase_if(logs, [&](const std::string& name) {
-    const bool no_log = !Tidy(name);
-    Advance(++done);
-    return no_log;
-  });
+  const auto names = form_.source.items.rows();
+  if (names.size() > kMostLogs) {
+    throw RunTimeError(ErrorNumber::kSubscript, "too many logs");
+  }
+  form_.progress.maximum = 2 * names.size();
+  std::vector<Entry> logs;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const std::string text = Tidy(names[i]);
+    if (text.starts_with(kFirstRowStart)) {
+      logs.push_back({names[i], IdentifyLog(text, logs.size())});
+    } else {
+      MarkAsNoLog(names[i]);
+    }
+    Advance(i + 1);
+  }
   return logs;
 }
 
-bool Renaming::Tidy(const std::string& name) {
+std::string Renaming::Tidy(const std::string& name) {
   const std::string text = files_.ReadAll(Source(name));
-  const std::string usual = WithUsualLineEnds(text);
+  std::string usual = WithUsualLineEnds(text);
   if (usual != text) {
     files_.WriteAll(Source(name), usual);
   }
-  if (usual.starts_with(kFirstRowStart)) {
-    return true;
-  }
+  return usual;
+}
+
+void Renaming::MarkAsNoLog(const std::string& name) {
   const std::string folder = session_.workspace.recalculated();
   const std::string target = FreeName(files_, Source(name), folder, name.substr(0, kLongestStem),
                                       " - prima riga non corretta o riga vuota.txt");
   files_.Move(Source(name), folder + "/" + target);
   ++counters_.not_valid;
   Tell(target);
-  return false;
 }
 
-void Renaming::RenameLogs(const std::vector<std::string>& logs) {
-  if (logs.size() > kMostLogs) {
-    throw RunTimeError(ErrorNumber::kSubscript, "too many logs");
+void Renaming::RenameLogs(const std::vector<Entry>& logs) {
+  // What is set aside comes first, so that its numbers do not hang on what the folder holds.
+  std::vector<const Entry*> valid;
+  for (const Entry& entry : logs) {
+    if (TakeName(entry)) {
+      valid.push_back(&entry);
+    }
   }
-  for (std::size_t i = 0; i < logs.size(); ++i) {
-    Rename(logs[i], i);
-    Advance(form_.progress.maximum / 2 + i + 1);
+  const std::size_t done = form_.progress.maximum - valid.size();
+  for (std::size_t i = 0; i < valid.size(); ++i) {
+    Insert(*valid[i]);
+    ShowCounters();
+    Advance(done + i + 1);
   }
   Advance(form_.progress.maximum);
 }
 
-void Renaming::Rename(const std::string& name, std::size_t index) {
-  const std::string text = files_.ReadAll(Source(name));
+/// Gives a log its name; one that is not valid or came twice is set aside under it. Whether the log
+/// is to be inserted.
+bool Renaming::TakeName(const Entry& entry) {
+  const auto& [name, log] = entry;
   ++counters_.read;
-  const LogIdentity log = IdentifyLog(text, index);
   counters_.changed_calls += static_cast<std::size_t>(log.call.removals);
   TellMissingRows(name, log);
   form_.List1.items.Add(
@@ -172,13 +186,12 @@ void Renaming::Rename(const std::string& name, std::size_t index) {
     ++counters_.repeated;
     SetAside(name,
              SetAsideName(Join(log.text, " ", Str(static_cast<long long>(counters_.repeated)))));
-  } else if (!log.valid) {
-    SetAside(name, log.new_name);
-  } else {
-    Insert(name, log, text);
+    return false;
   }
-  copied_.push_back(name);
-  ShowCounters();
+  if (!log.valid) {
+    SetAside(name, log.new_name);
+  }
+  return log.valid;
 }
 
 void Renaming::TellMissingRows(const std::string& name, const LogIdentity& log) {
@@ -196,13 +209,15 @@ void Renaming::SetAside(const std::string& name, const std::string& new_name) {
   const std::string folder = session_.workspace.to_check_again();
   const std::string target = FreeName(files_, Source(name), folder, new_name);
   files_.Copy(Source(name), folder + "/" + target);
+  copied_.push_back(name);
   ++counters_.not_valid;
   Tell(Join(name, "\t", target));
 }
 
-void Renaming::Insert(const std::string& name, const LogIdentity& log, std::string_view text) {
+void Renaming::Insert(const Entry& entry) {
+  const auto& [name, log] = entry;
   const std::string prefix = session_.workspace.to_insert() + "/";
-  const std::string content = WithSection(text, log.section);
+  const std::string content = WithSection(files_.ReadAll(Source(name)), log.section);
   std::string new_name = FitName(log.new_name);
   const auto there = ReadIfThere(files_, prefix + new_name);
   if (there && *there != content) {
@@ -215,6 +230,7 @@ void Renaming::Insert(const std::string& name, const LogIdentity& log, std::stri
     ++counters_.renamed;  // also where an earlier run, that broke, had written it already
   }
   files_.WriteAll(prefix + new_name, content);
+  copied_.push_back(name);
 }
 
 void Renaming::Tell(const std::string& row) {

@@ -36,6 +36,12 @@ class Renaming {
   void List2_Click();
 
  private:
+  /// A log of the source, by its file name, and what its header says.
+  struct Entry {
+    std::string name;
+    LogIdentity log;
+  };
+
   struct Counters {
     std::size_t read = 0;
     std::size_t repeated = 0;
@@ -47,13 +53,14 @@ class Renaming {
   void Trap(const std::function<void()>& procedure);
   void RefreshLists();
   void ShowCounters();
-  std::vector<std::string> TidyLogs();
-  bool Tidy(const std::string& name);
-  void RenameLogs(const std::vector<std::string>& logs);
-  void Rename(const std::string& name, std::size_t index);
+  std::vector<Entry> TidyLogs();
+  std::string Tidy(const std::string& name);
+  void MarkAsNoLog(const std::string& name);
+  void RenameLogs(const std::vector<Entry>& logs);
+  bool TakeName(const Entry& entry);
   void TellMissingRows(const std::string& name, const LogIdentity& log);
   void SetAside(const std::string& name, const std::string& new_name);
-  void Insert(const std::string& name, const LogIdentity& log, std::string_view text);
+  void Insert(const Entry& entry);
   std::string Source(const std::string& name) const;
   void Tell(const std::string& row);
   void RemoveRenamed();
