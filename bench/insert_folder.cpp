@@ -85,7 +85,7 @@ class Way {
   Way(const Workspace& paths, FileSystem& files)
       : paths_(paths),
         files_(files),
-        program_(paths.base(), Ports{files, manager, clock_, machine_, web_}) {}
+        program_(paths.base(), Ports{files, manager, clock_, machine_, web_, printer_}) {}
 
   /// From the start of the program to the named logs.
   void Name() {
@@ -122,6 +122,7 @@ class Way {
   ScriptClock clock_{facts_};
   ScriptMachine machine_{facts_};
   ScriptWeb web_{facts_, nullptr};
+  ScriptPrinter printer_{facts_, nullptr};
   Program program_;
 };
 

@@ -1,11 +1,11 @@
 #include "app/program.h"
 
+#include "check/check_desk.h"
 #include "intake/insertion.h"
 #include "intake/leaving.h"
 #include "intake/recalculation.h"
 #include "intake/renaming.h"
 #include "model/contest_store.h"
-#include "session/check_form.h"
 #include "session/config_dialog.h"
 #include "session/contest_session.h"
 #include "session/info_form.h"
@@ -14,6 +14,7 @@
 #include "session/month_assignment.h"
 #include "session/month_dialog.h"
 #include "session/start_up.h"
+#include "utility/info_window.h"
 
 namespace velmar {
 
@@ -28,14 +29,18 @@ struct Program::Modules {
         recalculation(session, ports.files, ports.manager, screen, main),
         renaming(session, ports.files, ports.manager, screen, main),
         insertion(session, ports.files, ports.manager, store, months, main),
+        desk(session, ports, store, screen, main, check),
+        info_window(screen, info),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); },
-              .open_renaming = [this] { renaming.Open(); }}),
+              .open_renaming = [this] { renaming.Open(); },
+              .open_check = [this] { desk.Open(); },
+              .open_info = [this] { info_window.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
-    for (Form* form :
-         std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
-                                      &recalculation.form(), &renaming.form(), &check, &info}) {
+    for (Form* form : std::initializer_list<Form*>{
+             &main, &month_dialog.form(), &config.form(), &recalculation.form(), &renaming.form(),
+             &check, &desk.archive_form(), &desk.notices_form(), &info}) {
       screen.Add(*form);
     }
   }
@@ -53,6 +58,8 @@ struct Program::Modules {
   Recalculation recalculation;
   Renaming renaming;
   Insertion insertion;
+  CheckDesk desk;
+  InfoWindow info_window;
   Leaving leaving;
   MainMenu menu;
   StartUp start_up;
@@ -89,6 +96,14 @@ Recalculation& Program::recalculation() {
 
 Renaming& Program::renaming() {
   return modules_->renaming;
+}
+
+CheckDesk& Program::check_desk() {
+  return modules_->desk;
+}
+
+InfoForm& Program::info_form() {
+  return modules_->info;
 }
 
 }  // namespace velmar

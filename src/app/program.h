@@ -8,7 +8,9 @@
 
 namespace velmar {
 
+class CheckDesk;
 class ConfigDialog;
+struct InfoForm;
 class MainForm;
 class MonthDialog;
 class Recalculation;
@@ -36,6 +38,8 @@ class Program {
   ConfigDialog& config_dialog();
   Recalculation& recalculation();
   Renaming& renaming();
+  CheckDesk& check_desk();
+  InfoForm& info_form();
 
  private:
   struct Modules;

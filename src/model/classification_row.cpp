@@ -31,6 +31,24 @@ std::string ClassificationRow(const ClassificationEntry& entry) {
       PercentageBlock(0, entry.operator_mark));
 }
 
+std::string CheckedRow(std::string_view row, const CheckTotals& totals) {
+  namespace columns = classification_row;
+  const ClassificaRow old(row);
+  const float percentage = ErrorPercentage(totals.errors, static_cast<int>(old.QsoCount()));
+  return Join(Pad(Cut(row, columns::kBeforeCheck), columns::kBeforeCheck.width),
+              Pad(Str(totals.errors), columns::kErrors.width),
+              Pad(StrReal(totals.lost), columns::kErrorPoints.width),
+              Pad(StrReal(totals.final), columns::kPoints.width),
+              PercentageBlock(percentage, old.Mark().empty() ? ' ' : old.Mark().front()),
+              old.Position());
+}
+
+std::string WithDxMark(std::string_view row, char mark) {
+  std::string marked(row);
+  marked.at(classification_row::kDxMark.start - 1) = mark;
+  return marked;
+}
+
 float ErrorPercentage(int errors, int qsos) {
   if (qsos == 0) {
     throw RunTimeError(ErrorNumber::kDivisionByZero, "a percentage of no QSOs");

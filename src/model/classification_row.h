@@ -53,6 +53,16 @@ inline constexpr Column kErrArea{92, 13};    ///< all blank: the log has not bee
 inline constexpr Column kPosition{123, 10};  ///< of the queue; not stored
 inline constexpr Column kDx{66, 11};
 
+/// What a check leaves as it is.
+inline constexpr Column kBeforeCheck{1, 91};
+
+/// "*" where the QSO with the declared DX call was penalised. The last digit of a declared score of
+/// eight stood there.
+inline constexpr Column kDxMark{65, 1};
+
+/// Ten blanks here mean that the desk has yet to check the log.
+inline constexpr Column kToBeChecked{92, 10};
+
 /// Where ten blanks in any row mean that the classification is not complete. The test takes the
 /// last two columns of the recomputed score in, which no score of this contest reaches.
 inline constexpr Column kUnchecked{90, 10};
@@ -107,6 +117,20 @@ struct ClassificationEntry {
 /// The row of a log that has just been filed: no error is known yet, and the final score is the
 /// computed one.
 std::string ClassificationRow(const ClassificationEntry& entry);
+
+/// What a check of a log has found.
+struct CheckTotals {
+  int errors = 0;
+  double lost = 0;   ///< points
+  double final = 0;  ///< points that are left
+};
+
+/// A row with the result of a check in place of an older one. It keeps what stands ahead of the
+/// result, its operator mark and its position. A row that declares no QSO raises error 11.
+std::string CheckedRow(std::string_view row, const CheckTotals& totals);
+
+/// A row with a character at the mark of the DX QSO.
+std::string WithDxMark(std::string_view row, char mark);
 
 /// The percentage of errors, in single precision as the row shows it: of 100 times the quotient
 /// only the first six characters count. Without a QSO it raises error 11.

@@ -35,6 +35,17 @@ inline void AddLine(std::string& text, std::string_view line) {
 /// All lines of a text, as LineReader gives them.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
+/// Puts the lines of a text into a table of them, in place of what it held. The table tells where
+/// there are too many.
+template <typename Table>
+void FillWithLines(Table& table, std::string_view text) {
+  table.Clear();
+  LineReader reader(text);
+  for (std::string_view line; reader.Next(line);) {
+    table.Add(std::string(line));
+  }
+}
+
 /// The last line of a text; empty when it has none.
 std::string_view LastLine(std::string_view text);
 

@@ -59,6 +59,9 @@ class Workspace {
 
   std::string sections() const { return store() + "/Sezioni_ASZ"; }
 
+  /// A working list of the check desk; all of these end in ".tmp".
+  std::string scratch(std::string_view name) const { return base_ + "/" + std::string(name); }
+
   std::string settings() const { return base_ + "/VartoVLM.ini"; }
   std::string call_book() const { return base_ + "/Varto_book.bin"; }
   std::string month_to_check() const { return store() + "/mese_verifica.dat"; }

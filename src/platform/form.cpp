@@ -5,12 +5,18 @@
 namespace velmar {
 
 bool Control::Reachable() const {
-  for (const Control* control = this; control != nullptr; control = control->menu) {
+  for (const Control* control = this; control != nullptr; control = control->container) {
     if (!control->visible || !control->enabled) {
       return false;
     }
   }
   return form_.visible();
+}
+
+std::optional<std::string> Control::ChosenRow() const {
+  const auto& rows = items.rows();
+  const auto row = static_cast<std::size_t>(selection);
+  return selection >= 0 && row < rows.size() ? std::optional(rows[row]) : std::nullopt;
 }
 
 void Control::Click() {

@@ -52,6 +52,11 @@ class Items {
     std::erase(rows_, row);
     ++version_;
   }
+  /// Takes one row out, by its number counted from 0; the row must be there.
+  void RemoveAt(std::size_t row) {
+    rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+    ++version_;
+  }
   void Add(std::string row) {
     rows_.push_back(std::move(row));
     ++version_;
@@ -75,9 +80,18 @@ class Control {
   Form& form() const { return form_; }
   ControlKind kind() const { return kind_; }
 
-  /// Whether a person can use it: it, the menu that it hangs in, and its form are to be seen, and
-  /// it and that menu are enabled.
+  /// Whether a person can use it: it, the menus or frames that it hangs in, and its form are to be
+  /// seen, and it and those menus or frames are enabled.
   bool Reachable() const;
+
+  /// Other rows, none of them chosen.
+  void Fill(std::vector<std::string> rows) {
+    items.Assign(std::move(rows));
+    selection = -1;
+  }
+
+  /// The chosen row; nothing where none is chosen.
+  std::optional<std::string> ChosenRow() const;
 
   // What a person does. The front ends ask Reachable first; these do as told.
   virtual void Click();
@@ -94,8 +108,9 @@ class Control {
   bool visible = true;
   bool enabled = true;
   bool checked = false;
-  std::optional<int> colour;      ///< of the background; nothing for the usual one
-  const Control* menu = nullptr;  ///< the menu that a menu item hangs in
+  std::optional<int> colour;           ///< of the background; nothing for the usual one
+  const Control* container = nullptr;  ///< the menu or the frame that it hangs in
+  int top = -1;                        ///< the row that a list is to begin with; -1: any
 
   std::function<void()> on_click;
   std::function<void()> on_double_click;
@@ -118,6 +133,7 @@ using Button = PlainControl<ControlKind::kButton>;
 using Menu =
     PlainControl<ControlKind::kMenu>;  ///< its tick is set by the procedures, not the click
 using Label = PlainControl<ControlKind::kLabel>;
+using Frame = Label;  ///< the title of a group of controls, which are seen with it
 using TextField = PlainControl<ControlKind::kText>;
 using List = PlainControl<ControlKind::kList>;
 using FileList = PlainControl<ControlKind::kFiles>;  ///< the items are the names in a folder
@@ -169,8 +185,14 @@ class Form {
   }
   Menu& AddMenu(const std::string& name, const std::string& caption, const Menu* menu = nullptr) {
     auto& item = Add<Menu>(name, caption);
-    item.menu = menu;
+    item.container = menu;
     return item;
+  }
+  /// Puts a control that was just added into a frame.
+  template <typename Kind>
+  static Kind& In(const Frame& frame, Kind& control) {
+    control.container = &frame;
+    return control;
   }
   Check& AddCheck(const std::string& name, const std::string& caption) {
     return Add<Check>(name, caption);

@@ -10,4 +10,9 @@ inline constexpr std::string_view kPing = "127.0.0.1";
 inline constexpr std::string_view kVersionText =
     "http://127.0.0.1/varto/versione_varto_velmar144.txt";  ///< the newest short version
 
+/// Pages that the manager can open: the map of a locator and the call book.
+inline constexpr std::string_view kGridMap = "http://127.0.0.1/grid/?qth=";  ///< then the locator
+inline constexpr std::string_view kGridMapEnd = "&t=n";
+inline constexpr std::string_view kCallBook = "http://127.0.0.1/db/";  ///< then the call
+
 }  // namespace velmar::hosts

@@ -4,6 +4,7 @@
 #include "platform/file_system.h"
 #include "platform/machine.h"
 #include "platform/manager.h"
+#include "platform/printer.h"
 #include "platform/web.h"
 
 namespace velmar {
@@ -15,6 +16,7 @@ struct Ports {
   Clock& clock;
   Machine& machine;
   Web& web;
+  Printer& printer;
 };
 
 }  // namespace velmar

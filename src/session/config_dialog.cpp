@@ -59,7 +59,7 @@ std::array<ConfigForm::Line, kSettings> ConfigForm::AddLines() {
 }
 
 ConfigDialog::ConfigDialog(ContestSession& session, FileSystem& files, Manager& manager,
-                           MenuTrap& trap, Screen& screen, MainForm& main, CheckForm& check)
+                           MenuTrap& trap, Screen& screen, MainForm& main, CheckOptions& check)
     : session_(session),
       files_(files),
       manager_(manager),
@@ -150,7 +150,7 @@ void ConfigDialog::CreateSettings() {
   }
 }
 
-void SaveSettings(ContestSession& session, FileSystem& files, CheckForm& check) {
+void SaveSettings(ContestSession& session, FileSystem& files, CheckOptions& check) {
   session.settings.Repair();
   if (session.settings[Setting::kHideOverTwo] == Settings::kOff) {
     check.Check8.checked = true;

@@ -6,7 +6,7 @@
 #include "platform/file_system.h"
 #include "platform/form.h"
 #include "platform/manager.h"
-#include "session/check_form.h"
+#include "session/check_options.h"
 #include "session/contest_session.h"
 #include "session/main_form.h"
 #include "session/menu_trap.h"
@@ -45,7 +45,7 @@ struct ConfigForm : Form {
 class ConfigDialog {
  public:
   ConfigDialog(ContestSession& session, FileSystem& files, Manager& manager, MenuTrap& trap,
-               Screen& screen, MainForm& main, CheckForm& check);
+               Screen& screen, MainForm& main, CheckOptions& check);
 
   ConfigForm& form() { return form_; }
 
@@ -69,13 +69,13 @@ class ConfigDialog {
   Manager& manager_;
   Screen& screen_;
   MainForm& main_;
-  CheckForm& check_;
+  CheckOptions& check_;
   MenuTrap& trap_;
   ConfigForm form_;
 };
 
 /// Writes the settings file out of the session's settings, repaired; ticks the last option of the
 /// check desk where the repair set it. For the way out of the check desk.
-void SaveSettings(ContestSession& session, FileSystem& files, CheckForm& check);
+void SaveSettings(ContestSession& session, FileSystem& files, CheckOptions& check);
 
 }  // namespace velmar

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "model/bounded_table.h"
 #include "model/workspace.h"
@@ -46,10 +48,15 @@ struct ContestSession {
   BoundedTable<std::string, 10'000> participants;
   BoundedTable<std::string, 370'000> total_library;
   BoundedTable<std::string, 370'000> classifica_rows;
-  bool archive_missing = false;  ///< the call book was not found
+  bool archive_missing = false;  ///< the call book was not found, or is none
+  bool book_loaded = false;
+  std::vector<std::string_view> iaru_table;  ///< the rows that are built in
+  std::vector<std::string> call_book;        ///< the records of the archive
 
   // What the steps tell one another.
   bool log_inserted_since_load = false;  ///< the classification in memory lacks a log
+  bool classifica_loaded = false;        ///< the check desk has held one
+  bool reload_needed = false;            ///< the check desk must read it again
   bool checks_unfinished = false;        ///< rows of the classification were never checked
   bool recalc_dest_not_empty = false;    ///< the recalculation found logs where it writes
   OperatorMark operator_mark = OperatorMark::kNone;  ///< of the log on screen

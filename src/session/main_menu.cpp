@@ -21,6 +21,8 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   OnClick(form.restore_1KM, &MainMenu::restore_1KM_Click);
   OnClick(form.Rinomina_ita, &MainMenu::Rinomina_ita_Click);
   OnClick(form.Inserire_log, &MainMenu::Inserire_log_Click);
+  OnClick(form.controlla_locatori, &MainMenu::controlla_locatori_Click);
+  OnClick(form.Info, &MainMenu::Info_Click);
   OnClick(form.CLA_mese_excel, &MainMenu::CLA_mese_excel_Click);
   OnClick(form.Elimina_log, &MainMenu::Elimina_log_Click);
   OnClick(form.vis_puls, &MainMenu::vis_puls_Click);
@@ -78,6 +80,15 @@ void MainMenu::Rinomina_ita_Click() {
 
 void MainMenu::Inserire_log_Click() {
   form_.ShowInsertStep(true);
+}
+
+void MainMenu::controlla_locatori_Click() {
+  screen_.Hide(form_);
+  steps_.open_check();
+}
+
+void MainMenu::Info_Click() {
+  steps_.open_info();
 }
 
 void MainMenu::ControllaCla() {

@@ -16,6 +16,8 @@ namespace velmar {
 struct MenuSteps {
   std::function<void()> open_recalculation{};
   std::function<void()> open_renaming{};
+  std::function<void()> open_check{};
+  std::function<void()> open_info{};
 };
 
 /// The menu and the small controls of the main screen.
@@ -29,6 +31,8 @@ class MainMenu {
   /// ones: they end the program.
   void Rinomina_ita_Click();
   void Inserire_log_Click();
+  void controlla_locatori_Click();
+  void Info_Click();
   void CLA_mese_excel_Click();
   void Elimina_log_Click();
   void vis_puls_Click();

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "model/iaru_table.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -35,15 +36,6 @@ bool HoldsAny(std::string_view text, std::string_view first, std::string_view se
   return Holds(text, first) || Holds(text, second);
 }
 
-template <std::size_t kMost>
-void Fill(BoundedTable<std::string, kMost>& table, const std::string& text) {
-  table.Clear();
-  LineReader reader(text);
-  for (std::string_view line; reader.Next(line);) {
-    table.Add(std::string(line));
-  }
-}
-
 }  // namespace
 
 void StartUp::Show(std::vector<std::string> lines, Icon icon) {
@@ -66,6 +58,7 @@ void StartUp::Chain() {
   TestDate();
   TestLocation();
   trap_.Statement(6, [&] { ports_.files.ChangeFolder(session_.workspace.base()); });
+  session_.iaru_table = LoadIaruTable();
   SetDefaults();
   session_.tree_existed = ports_.files.FolderExists(session_.workspace.store());
   screen_.Show(main_);
@@ -225,13 +218,13 @@ void StartUp::ReadStore() {
   trap_.Statement(17, [&] {
     if (const auto text =
             ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kPartecipanti))) {
-      Fill(session_.participants, *text);
+      FillWithLines(session_.participants, *text);
     }
   });
   trap_.Statement(17, [&] {
     if (const auto text =
             ReadIfThere(ports_.files, session_.workspace.store_file(StoreFile::kLibreriaTotale))) {
-      Fill(session_.total_library, *text);
+      FillWithLines(session_.total_library, *text);
     }
   });
 }
@@ -258,7 +251,7 @@ void StartUp::ReadClassification() {
     const auto text =
         ReadIfThere(ports_.files, session_.workspace.classification(session_.category_month));
     if (text) {
-      Fill(session_.classifica_rows, *text);
+      FillWithLines(session_.classifica_rows, *text);
       main_.controlla_locatori.enabled = true;
       main_.CLA_mese_excel.enabled = true;
     }

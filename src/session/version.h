@@ -5,6 +5,7 @@
 
 namespace velmar {
 
+inline constexpr std::string_view kProgramTitle = "VARTO Velmar VHF";
 inline constexpr std::string_view kProgramDate = "VARTO Velmar VHF - 02 Gennaio 2024 - Ver. 24-008";
 inline constexpr std::string_view kVersionLong = " Ver. 2024-008 ";
 inline constexpr std::string_view kVersionShort = "24-008";

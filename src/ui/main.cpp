@@ -10,6 +10,7 @@
 #include "ui/look.h"
 #include "ui/qt_machine.h"
 #include "ui/qt_manager.h"
+#include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/qt_web.h"
 #include "ui/system_clock.h"
@@ -33,7 +34,9 @@ int Run(char* arguments[]) {
   SystemClock clock;
   QtMachine machine;
   QtWeb web;
-  Program program(FromDiskName(QDir::currentPath()), {files, manager, clock, machine, web});
+  QtPrinter printer(runner);
+  Program program(FromDiskName(QDir::currentPath()),
+                  {files, manager, clock, machine, web, printer});
   Desktop desktop(program, runner, manager);
   return desktop.Run();
 }

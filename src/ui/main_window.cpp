@@ -134,7 +134,7 @@ QWidget* MainWindow::MakeSteps() {
   rows->setSpacing(kSpacing);
   for (const BindingPtr& binding : bindings()) {
     const Control& control = binding->control();
-    const bool step_of_menu = control.menu == &form_.controllo && &control != &form_.ass_mese;
+    const bool step_of_menu = control.container == &form_.controllo && &control != &form_.ass_mese;
     if (binding->action() == nullptr || !step_of_menu || !control.on_click) {
       continue;
     }

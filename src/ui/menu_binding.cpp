@@ -66,13 +66,13 @@ std::vector<BindingPtr> BindMenu(QMenuBar& bar,
                                  EventRunner& runner) {
   std::set<const Control*> parents;
   for (const auto& control : controls) {
-    parents.insert(control->menu);
+    parents.insert(control->container);
   }
   std::map<const Control*, QMenu*> menus{{nullptr, nullptr}};
   std::vector<BindingPtr> bindings;
   for (const auto& control : controls) {
     if (control->kind() == ControlKind::kMenu) {
-      QMenu* parent = menus.at(control->menu);
+      QMenu* parent = menus.at(control->container);
       QAction* action = parents.contains(control.get())
                             ? AddMenu(bar, parent, *control, runner, menus)
                             : AddItem(bar, parent, *control, runner);

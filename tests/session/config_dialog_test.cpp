@@ -51,7 +51,7 @@ class ConfigTest : public testing::Test {
   Screen screen;
   ContestSession session{workspace.paths().base()};
   MainForm main;
-  CheckForm check;
+  CheckOptions check;
   MenuTrap trap{manager};
   ConfigDialog config{session, workspace.files(), manager, trap, screen, main, check};
 };

@@ -47,7 +47,7 @@ class MonthTest : public testing::Test {
   Screen screen;
   ContestSession session{workspace.paths().base()};
   MainForm main;
-  CheckForm check;
+  CheckOptions check;
   MenuTrap trap{manager};
   ConfigDialog config{session, workspace.files(), manager, trap, screen, main, check};
   MonthDialog dialog{session, workspace.files(), manager, trap, clock, screen, main, config};

@@ -28,7 +28,9 @@ struct DesktopFixture {
   FixedClock clock;
   FakeMachine machine;
   FakeWeb web;
-  Program program{workspace.paths().base(), {workspace.files(), manager, clock, machine, web}};
+  RecordingPrinter printer;
+  Program program{workspace.paths().base(),
+                  {workspace.files(), manager, clock, machine, web, printer}};
   Desktop desktop{program, runner, manager};
 
   FormWindow& Window(Form& form) { return *desktop.WindowOf(form); }

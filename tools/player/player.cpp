@@ -64,7 +64,8 @@ Player::Player(const std::string& workspace, std::ostream& out, std::ostream& er
       manager_(workspace, [this](const JsonRecord& record) { Record(record); }),
       clock_(facts_),
       machine_(facts_),
-      web_(facts_, [this](const JsonRecord& record) { Record(record); }) {}
+      web_(facts_, [this](const JsonRecord& record) { Record(record); }),
+      printer_(facts_, [this](const JsonRecord& record) { Record(record); }) {}
 
 PlayResult Player::Play(std::istream& script) {
   std::string line;
@@ -182,7 +183,8 @@ bool Player::QueueAnswer(const std::string& word, const std::string& rest) {
 }
 
 void Player::Start(const std::string& /*rest*/) {
-  program_ = std::make_unique<Program>(workspace_, Ports{files_, manager_, clock_, machine_, web_});
+  program_ = std::make_unique<Program>(workspace_,
+                                       Ports{files_, manager_, clock_, machine_, web_, printer_});
   program_->screen().on_visibility = [this](const Form& form) {
     Record(JsonRecord().Text("form", form.name()).Flag("visible", form.visible()));
   };

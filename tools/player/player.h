@@ -79,6 +79,7 @@ class Player {
   ScriptClock clock_;
   ScriptMachine machine_;
   ScriptWeb web_;
+  ScriptPrinter printer_;
   std::unique_ptr<Program> program_;
   bool forced_ = false;  ///< the command in hand reaches controls that a person could not
 };

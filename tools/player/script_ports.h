@@ -5,10 +5,12 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "platform/clock.h"
 #include "platform/machine.h"
 #include "platform/manager.h"
+#include "platform/printer.h"
 #include "platform/web.h"
 #include "player/json.h"
 
@@ -99,6 +101,20 @@ class ScriptWeb : public Web {
   ScriptWeb(const MachineFacts& facts, RecordSink sink) : facts_(facts), sink_(std::move(sink)) {}
   std::string Fetch(const std::string& url) override;
   void Open(const std::string& url) override { sink_(JsonRecord().Text("open", url)); }
+
+ private:
+  const MachineFacts& facts_;
+  RecordSink sink_;
+};
+
+class ScriptPrinter : public Printer {
+ public:
+  ScriptPrinter(const MachineFacts& facts, RecordSink sink)
+      : facts_(facts), sink_(std::move(sink)) {}
+  bool Installed() override { return facts_.printer; }
+  void Print(const std::vector<std::string>& lines) override {
+    sink_(JsonRecord().Texts("print", lines));
+  }
 
  private:
   const MachineFacts& facts_;

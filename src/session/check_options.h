@@ -8,16 +8,19 @@
 
 namespace velmar {
 
-/// The options of the check desk. The settings that the configuration dialog shows are ticks of
-/// this menu.
-struct CheckForm : Form {
-  CheckForm() : Form("VLM2M_02_Controlli", "") {}
+/// The option menus of the check desk. The settings that the configuration dialog shows are ticks
+/// of theirs; the desk adds the rest of its screen.
+struct CheckOptions : Form {
+  CheckOptions() : Form("VLM2M_02_Controlli", "") {}
 
   Menu& opzioni = AddMenu("opzioni", "option");
   Menu& no_control_time = AddMenu("no_control_time", "attiva controllo orario", &opzioni);
   Menu& NOT_IN_LOG = AddMenu("NOT_IN_LOG", "Attiva NOT in LOG", &opzioni);
   Menu& vis_mess = AddMenu("vis_mess", "Visualizzare messaggi", &opzioni);
   Menu& assegna_errore_qso = AddMenu("assegna_errore_qso", "Assegna errore a qso", &opzioni);
+  Menu& NOT_ERROR = AddMenu(
+      "NOT_ERROR", "Opz15 - Attivare in automatico 'Non è errore' su check locatori"_a, &opzioni);
+  Menu& Pass_next = AddMenu("Pass_next", "Passaggio automatico", &opzioni);
 
   Menu& Unique = AddMenu("Unique", "UNICI");
   Menu& Check5 = AddMenu("Check5", "Opz1 - NON visualizzare i call sesono nel DataBase.", &Unique);

@@ -1,0 +1,78 @@
+#include "check/check_form.h"
+
+#include "model/columns.h"
+
+namespace velmar {
+
+namespace {
+
+/// The titles over the columns of the queue that they belong to.
+std::string QueueTitles() {
+  struct Title {
+    std::size_t column;
+    std::string_view text;
+  };
+  constexpr Title kTitles[] = {
+      {1, "Call"},  {14, "Locatore"}, {23, "Aslm"},     {28, "Antenna"}, {47, "Power"},
+      {53, "Qso"},  {57, "Declared"}, {66, "odx"},      {77, "DX"},      {82, " Qrb"},
+      {92, " err"}, {97, " errQRB"},  {105, " Finale"}, {117, "%"},      {124, "pos ."}};
+  std::string titles;
+  for (const Title& title : kTitles) {
+    titles = Pad(titles, title.column - 1);
+    titles += title.text;
+  }
+  return titles;
+}
+
+}  // namespace
+
+CheckForm::CheckForm() {
+  Frame_Classifica_gene_banda.caption = kQueueTitle;
+  titoli.caption = QueueTitles();
+  conf_err_time.caption = kTimeError;
+  conf_err_RST.caption = kReportError;
+  uscita2.visible = false;
+  Frame_unici.visible = false;
+  Frame_Controllo_locatori.visible = false;
+  Frame_solo_classifica.visible = false;
+  La_info.visible = false;
+  err_loc_log.visible = false;
+  LBL_doppioclick.visible = false;
+  List_errori.visible = false;
+  prossimo.visible = false;
+  Bar1.visible = false;
+  for (Button* button : {&unici, &aggiorna_punt_class, &ordina}) {
+    button->enabled = false;
+  }
+}
+
+std::array<Label*, 6> CheckForm::AddSteps() {
+  constexpr std::array kNames = {"1 Locatori", "2 Orari",      "3 Rapporti",
+                                 "4 Unici",    "5 Not in log", "6 Classifica"};
+  std::array<Label*, 6> steps{};
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    steps[i] = &In(Frame_esame, AddLabel(Join("passo_", i + 1), kNames[i]));
+  }
+  return steps;
+}
+
+void CheckForm::ClearEvidence() {
+  for (Label* label : {&infoloc, &log_uguali, &log_diverso, &Locatore_in_log_arrivato}) {
+    label->caption.clear();
+  }
+  err_loc_log.visible = false;
+  LBL_doppioclick.visible = false;
+  vedi_locator.caption = "Visualizza in mappa il locatore : ";
+  conferma_errore.colour.reset();
+  QSO_ok.colour.reset();
+}
+
+void CheckForm::ClearLists() {
+  for (List* list : {&Lista_dubbi, &Lista_locatori, &Lista_err_orario, &Call_unici, &Lista_simili,
+                     &lista_call_unici, &List_errori}) {
+    list->Fill({});
+  }
+  N_dubbi.caption.clear();
+}
+
+}  // namespace velmar

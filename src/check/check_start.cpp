@@ -1,0 +1,135 @@
+#include "check/check_start.h"
+
+#include <utility>
+
+#include "model/classification_row.h"
+#include "model/text.h"
+#include "platform/ansi.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::size_t kHeaderRow = 0;
+
+}  // namespace
+
+void CheckStart::prossimo_Click() {
+  if (queue_.ChooseFirstUnchecked()) {
+    state_.salta_conferma = true;
+    listacall_banda_DblClick();
+  }
+}
+
+void CheckStart::listacall_banda_DblClick() {
+  const int chosen = form_.listacall_banda.selection;
+  const auto row = static_cast<std::size_t>(chosen);
+  if (chosen < 0 || row >= state_.queue.size() || !MayStart()) {
+    return;
+  }
+  if (row == kHeaderRow) {
+    form_.ClearEvidence();
+    return;
+  }
+  if (state_.queue.TooShort(row)) {
+    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    return;
+  }
+  Prepare();
+  TakeRow(row);
+  const std::string text = state_.queue.RowWithPosition(row);
+  const bool checked = ClassificaRow(text).Checked();
+  if (!checked) {
+    report_.CutToHead();
+  } else if (!AskForRecheck()) {
+    EnableDecisions(false);
+    return;
+  }
+  EnableDecisions(true);
+  report_.BeginScore(text);
+  form_.conf_err_time.caption = Join(CheckForm::kTimeError, state_.call_in_esame);
+  form_.conf_err_RST.caption = Join(CheckForm::kReportError, state_.call_in_esame);
+  if (!SplitStore()) {
+    return;
+  }
+  locators_.Build();
+  state_.controllo_in_corso = true;
+  steps_.Advance();
+}
+
+bool CheckStart::MayStart() {
+  if (session_.reload_needed) {
+    manager_.Show({.lines = {" E' obbligatorio ricaricare la classifica "}});
+    return false;
+  }
+  if (std::exchange(state_.salta_conferma, false) || state_.primo_vuoto_scelto) {
+    return true;
+  }
+  return manager_.Show({.lines = {" Inizio il controllo ?"},
+                        .icon = Icon::kQuestion,
+                        .title = " Controllo call",
+                        .buttons = Buttons::kYesNoCancel}) == Reply::kYes;
+}
+
+void CheckStart::Prepare() {
+  form_.ClearLists();
+  form_.ClearEvidence();
+  steps_.Reset();
+  state_.unici_saltati = false;
+  state_.errore_in_arrivo = false;
+  form_.sigla_call.value.clear();
+  form_.Frame_Controllo_locatori.visible = true;
+  archive_.LoadBook();
+}
+
+void CheckStart::TakeRow(std::size_t row) {
+  const ClassificaRow columns(state_.queue.Row(row));
+  state_.indice_riga = row;
+  state_.call_in_esame = columns.Call();
+  state_.locatore_in_esame = RTrim(columns.Locator());
+  state_.dx_call = columns.Odx();
+}
+
+bool CheckStart::AskForRecheck() {
+  if (manager_.Show(
+          {.lines = {"Questo call è gia stato verificato, vuoi azzerare e ricalcolare ? "_a,
+                     " ( se vuoi vuoi ri-verificare il log,  premi SI)           "},
+           .icon = Icon::kQuestion,
+           .title = "Verifica errori",
+           .buttons = Buttons::kYesNo}) != Reply::kYes) {
+    return false;
+  }
+  report_.CutToHead();
+  manager_.Show({.lines = {" A T T E N Z I O N E  il report degli errori è stato cancellato e "_a,
+                           " non verrà registrato se non si porta a termine il controllo."_a,
+                           "I dati in classifica saranno sovrascritti al termine del controllo"}});
+  return true;
+}
+
+void CheckStart::EnableDecisions(bool enabled) {
+  for (Button* button :
+       {&form_.QSO_ok, &form_.Tutti_call, &form_.Tutti_loc, &form_.conferma_errore,
+        &form_.errore_call, &form_.convalida_qso_time, &form_.vis_err, &form_.not_inlog}) {
+    button->enabled = enabled;
+  }
+}
+
+bool CheckStart::SplitStore() {
+  auto library =
+      ReadIfThere(files_, session_.workspace.store_file(StoreFile::kLibreria, state_.categoria));
+  if (!library) {
+    manager_.Show({.lines = {" Il file della libreria di categoria è assente. Attenzione "_a}});
+    return false;
+  }
+  state_.library = std::move(*library);
+  const auto write = [this](std::string_view name, std::string_view text) {
+    files_.WriteAll(session_.workspace.scratch(name), text);
+  };
+  write("libreria.tmp", state_.library);
+  state_.qsos = SplitLibrary(state_.library, state_.call_in_esame);
+  write(Join(state_.categoria, "log_da_verificare.tmp"), RowsText(state_.qsos.log));
+  write(Join(state_.categoria, "Libreria_temp.tmp"), RowsText(state_.qsos.others));
+  return true;
+}
+
+}  // namespace velmar

@@ -1,0 +1,76 @@
+#include "check/classification_queue.h"
+
+#include <algorithm>
+
+#include "model/classification_row.h"
+#include "model/lines.h"
+#include "model/text.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::string_view kHeaderMark = " Pwr  Qso Declared";
+constexpr Column kHeaderMarkAt{47, kHeaderMark.size()};
+static_assert(Cut(classification_row::kHeader, kHeaderMarkAt) == kHeaderMark);
+
+constexpr std::size_t kWholeRow = classification_row::kPercentage.end() - 1;
+
+}  // namespace
+
+bool ToBeChecked(std::string_view row) {
+  return Trim(Cut(row, classification_row::kToBeChecked)).empty();
+}
+
+bool ClassificationQueue::Read(std::string_view text) {
+  Clear();
+  LineReader reader(text);
+  for (std::string_view line; reader.Next(line);) {
+    if (line.empty()) {
+      continue;
+    }
+    if (empty() && Cut(line, kHeaderMarkAt) != kHeaderMark) {
+      return false;
+    }
+    rows_.Add(std::string(line));
+  }
+  return !empty();
+}
+
+std::string ClassificationQueue::RowWithPosition(std::size_t row) const {
+  const std::string& text = Row(row);
+  return Join(Pad(text, std::max(text.size(), kWholeRow)), " ", row);
+}
+
+std::vector<std::string> ClassificationQueue::Shown(std::string_view separator) const {
+  std::vector<std::string> shown;
+  shown.reserve(size());
+  for (std::size_t row = 0; row < size(); ++row) {
+    shown.push_back(row == 0 ? Row(row) : Join(Row(row), separator, row));
+  }
+  return shown;
+}
+
+bool ClassificationQueue::TooShort(std::size_t row) const {
+  return Row(row).size() < classification_row::kBeforeCheck.width;
+}
+
+std::optional<std::size_t> ClassificationQueue::FirstUnchecked() const {
+  for (std::size_t row = 1; row < size(); ++row) {
+    if (ToBeChecked(Row(row))) {
+      return row;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> ClassificationQueue::FindCall(std::string_view part) const {
+  for (std::size_t row = 1; row < size(); ++row) {
+    if (Holds(ClassificaRow(Row(row)).Call(), part)) {
+      return row;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace velmar

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/bounded_table.h"
+
+namespace velmar {
+
+/// The rows of a classification in the order of its file, its header first. Rows are counted from
+/// 0, the header's number, so that a row's number is its position.
+class ClassificationQueue {
+ public:
+  /// Takes the rows of a file in place of the older ones. False where the first one is no header:
+  /// then there are none. Empty lines are passed over; too many rows raise error 9.
+  bool Read(std::string_view text);
+
+  void Clear() { rows_.Clear(); }
+  bool empty() const { return rows_.empty(); }
+  std::size_t size() const { return rows_.size(); }
+
+  /// A row as the file has it.
+  const std::string& Row(std::size_t row) const { return rows_[row + 1]; }
+
+  /// A row with its position behind it. What lacks to its columns is blank.
+  std::string RowWithPosition(std::size_t row) const;
+
+  /// All rows as the list of the queue shows them: each, its header apart, with its position behind
+  /// `separator`.
+  std::vector<std::string> Shown(std::string_view separator) const;
+
+  /// Whether a row is so short that it lacks what the check starts from.
+  bool TooShort(std::size_t row) const;
+
+  /// The first row, behind the header, that has not been checked.
+  std::optional<std::size_t> FirstUnchecked() const;
+
+  /// The first row, behind the header, whose call holds a text.
+  std::optional<std::size_t> FindCall(std::string_view part) const;
+
+ private:
+  BoundedTable<std::string, 370'000> rows_;
+};
+
+/// Whether a row of the classification waits for its check.
+bool ToBeChecked(std::string_view row);
+
+}  // namespace velmar

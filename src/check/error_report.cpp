@@ -1,0 +1,111 @@
+#include "check/error_report.h"
+
+#include "model/classification_row.h"
+#include "model/lines.h"
+#include "model/text.h"
+
+namespace velmar {
+
+namespace {
+
+std::vector<std::string> LinesOf(std::string_view text) {
+  const auto lines = SplitLines(text);
+  return {lines.begin(), lines.end()};
+}
+
+/// A number as the labels of the score show it.
+std::string Shown(double number) {
+  return std::string(Trim(StrReal(number)));
+}
+
+}  // namespace
+
+std::string ErrorReport::Path() const {
+  return session_.workspace.error_list(state_.categoria, state_.call_in_esame,
+                                       session_.category_month);
+}
+
+void ErrorReport::CutToHead() {
+  const std::string list = files_.ReadAll(Path());
+  if (SplitLines(list).size() > kErrorListHeadLines) {
+    files_.WriteAll(Path(), ErrorListHeadOf(list));
+  }
+}
+
+void ErrorReport::BeginScore(const std::string& row) {
+  const std::string unmarked = WithDxMark(row, ' ');
+  const double official = ClassificaRow(row).Ricalc();
+  const std::string checked = CheckedRow(unmarked, {.errors = 0, .lost = 0, .final = official});
+  state_.err_count = 0;
+  state_.err_qrb = 0;
+  state_.qrb_ufficiale = official;
+  state_.qrb_finale = official;
+  state_.next_index = 1;
+  form_.evidenzia.caption = checked;
+  ShowScore();
+}
+
+bool ErrorReport::AlreadyListed(const std::string& call) {
+  if (!ErrorListHolds(files_.ReadAll(Path()), call)) {
+    return false;
+  }
+  manager_.Show(
+      {.lines = {
+           Join(" Il call ", RTrim(call), " è già presente  sulla lista degli errori "_a), "    ",
+           " SE per lo stesso call sono stati commessi più errori, non è possibile penalizzarlo più di una volta. "_a,
+           " Per proseguire considera valido il qso."}});
+  return true;
+}
+
+void ErrorReport::Penalise(ErrorEntry entry) {
+  entry.index = state_.next_index;
+  const std::string list = files_.ReadAll(Path());
+  // A list that was cut in the middle of its last line keeps that line to itself.
+  const bool open_line = !list.empty() && list.back() != '\n';
+  files_.Append(Path(), Join(open_line ? kLineEnd : "", ErrorListLine(entry), kLineEnd));
+  ++state_.next_index;
+  state_.err_qrb += Val(entry.points);
+  ++state_.err_count;
+  state_.qrb_finale = state_.qrb_ufficiale - state_.err_qrb;
+  std::string row =
+      CheckedRow(form_.evidenzia.caption,
+                 {.errors = state_.err_count, .lost = state_.err_qrb, .final = state_.qrb_finale});
+  if (Trim(entry.call) == state_.dx_call) {
+    row = WithDxMark(row, '*');
+  }
+  form_.evidenzia.caption = std::move(row);
+  ShowScore();
+}
+
+void ErrorReport::ShowScore() {
+  form_.call_in_esame.caption = state_.call_in_esame;
+  form_.qrb_ufficiale.caption = Shown(state_.qrb_ufficiale);
+  form_.err_count.caption = Shown(state_.err_count);
+  form_.err_qrb.caption = Shown(state_.err_qrb);
+  form_.qrb_finale.caption = Shown(state_.qrb_finale);
+}
+
+void ErrorReport::vis_err_Click() {
+  if (form_.List_errori.visible) {
+    List_errori_Click();
+  } else if (!state_.call_in_esame.empty()) {
+    form_.List_errori.Fill(LinesOf(files_.ReadAll(Path())));
+    form_.List_errori.visible = true;
+    form_.vis_err.caption = form_.vis_err2.caption = "Nascondi lista errori";
+  }
+}
+
+void ErrorReport::List_errori_Click() {
+  form_.List_errori.visible = false;
+  form_.vis_err.caption = form_.vis_err2.caption = "Visualizza errori";
+}
+
+void ErrorReport::stampa_errori_Click() {
+  if (!printer_.Installed()) {
+    manager_.Show({.lines = {" Nessuna stampante installata. "}});
+  } else if (!state_.call_in_esame.empty()) {
+    printer_.Print(LinesOf(files_.ReadAll(Path())));
+  }
+}
+
+}  // namespace velmar
