@@ -10,30 +10,11 @@
 #include "session/main_menu.h"
 #include "session/menu_trap.h"
 #include "session/month_assignment.h"
+#include "support/boxes.h"
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
 namespace velmar::test {
-
-using Names = std::vector<std::string>;
-
-/// The lines of a box, from one text in which "|" stands between them.
-inline Names Lines(std::string_view text) {
-  Names lines(1);
-  for (const char c : text) {
-    if (c == '|') {
-      lines.emplace_back();
-    } else {
-      lines.back() += c;
-    }
-  }
-  return lines;
-}
-
-/// A box with an OK button and such lines.
-inline Box Told(std::string_view text) {
-  return {.lines = Lines(text)};
-}
 
 /// What the manager reads of a log that the pass over its rows does not let through.
 inline const Box kPassFailed{

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "check/check_desk.h"
+#include "model/classification_row.h"
+#include "model/contest_store.h"
+#include "model/error_list.h"
+#include "model/lines.h"
+#include "model/store_rows.h"
+#include "model/text.h"
+#include "support/boxes.h"
+#include "support/doubles.h"
+#include "support/temp_workspace.h"
+
+namespace velmar::test {
+
+/// A QSO as it lies in the store.
+struct FiledQso {
+  std::string call;
+  std::string locator;
+  std::string points = "100";
+};
+
+/// A log as it lies in the store; its best DX QSO is that of `dx_call`.
+struct FiledLog {
+  std::string call;
+  std::string locator;
+  std::vector<FiledQso> qsos;
+  std::string dx_call = "";
+  long long points = 5000;
+};
+
+/// The check desk on a workspace of its own, with the settings of a new one, where all messages are
+/// off.
+struct DeskFixture {
+  DeskFixture() {
+    workspace.WithTree().WithSettings();
+    session.category_month = "GENNAIO 2025";
+    session.settings = Settings::New();
+    session.archive_missing = true;
+    screen.Add(main);
+    screen.Add(form);
+    screen.Add(desk.archive_form());
+    screen.Add(desk.notices_form());
+    screen.Show(main);
+  }
+
+  /// Puts a log into the store files, the classification, and gives it an error list.
+  DeskFixture& Filed(const FiledLog& log) {
+    std::string library;
+    std::string total;
+    for (const FiledQso& qso : log.qsos) {
+      library += LibreriaRow(log.call, qso.call, qso.locator, qso.points).value_or("") + "\r\n";
+      total +=
+          LibreriaTotaleRow(log.call, qso.call, qso.locator, kCategory, qso.points).value_or("") +
+          "\r\n";
+    }
+    store.Append(StoreFile::kLibreria, kCategory, library);
+    store.Append(StoreFile::kLibreriaTotale, kCategory, total);
+    store.Append(StoreFile::kPartecipanti, kCategory,
+                 Join(PartecipanteRow(log.call, log.locator, kCategory), kLineEnd));
+    store.AppendToClassification(ClassificationRow({.call = Call12(log.call),
+                                                    .locator = log.locator,
+                                                    .height = "250",
+                                                    .antenna = "9 el yagi",
+                                                    .power = 100,
+                                                    .qsos = std::to_string(log.qsos.size()),
+                                                    .declared = std::to_string(log.points),
+                                                    .dx_call = log.dx_call,
+                                                    .dx_distance = "100",
+                                                    .points = log.points}),
+                                 kCategory, session.category_month);
+    store.AppendToErrorList(log.call, kCategory, session.category_month, Head(log));
+    return *this;
+  }
+
+  static std::string Head(const FiledLog& log) {
+    return ErrorListHeadText({.title = " Velmar  ",
+                              .month = "GENNAIO 2025",
+                              .call = Call12(log.call),
+                              .locator = log.locator,
+                              .declared = std::to_string(log.points),
+                              .band = "144 Mhz",
+                              .category = std::string(kCategory)});
+  }
+
+  /// Opens the desk and loads the month's classification.
+  DeskFixture& Loaded() {
+    desk.Open();
+    form.Option3.Click();
+    return *this;
+  }
+
+  /// Starts the check of a call, with Yes to its question.
+  DeskFixture& Started(std::string_view call) {
+    Choose(call);
+    manager.replies.push_back(Reply::kYes);
+    form.listacall_banda.DoubleClick();
+    return *this;
+  }
+
+  void Choose(std::string_view call) {
+    const auto& rows = form.listacall_banda.items.rows();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+      if (ClassificaRow(rows[row]).Call() == call) {
+        form.listacall_banda.selection = static_cast<int>(row);
+      }
+    }
+  }
+
+  std::string ErrorListOf(std::string_view call) {
+    return ReadIfThere(workspace.files(),
+                       session.workspace.error_list(kCategory, call, session.category_month))
+        .value_or("<missing>");
+  }
+
+  /// The lines of an error list behind its head.
+  Names Decisions(std::string_view call) {
+    const std::string list = ErrorListOf(call);
+    const auto lines = SplitLines(list);
+    return {lines.begin() + std::min(lines.size(), kErrorListHeadLines), lines.end()};
+  }
+
+  TempWorkspace workspace;
+  FailingFileSystem files{workspace.files()};
+  ScriptedManager manager;
+  FixedClock clock;
+  FakeMachine machine;
+  FakeWeb web;
+  RecordingPrinter printer;
+  ContestSession session{workspace.paths().base()};
+  Screen screen;
+  MainForm main;
+  ContestStore store{files, session.workspace};
+  CheckForm form;
+  CheckDesk desk{session, {files, manager, clock, machine, web, printer}, store, screen, main,
+                 form};
+};
+
+}  // namespace velmar::test
