@@ -120,11 +120,11 @@ void CheckDesk::Open() {
 }
 
 void CheckDesk::torna_menu_Click() {
-  if (state_.classifica_da_salvare) {
+  if (state_.progress.classifica_da_salvare) {
     ports_.manager.Show({.lines = {" DEVI SALVARE E ORDINARE LA CLASSIFICA PRIMA DI USCIRE"}});
     return;
   }
-  if (state_.controllo_in_corso) {
+  if (state_.progress.controllo_in_corso) {
     ports_.manager.Show({.lines = {" Devi finire il controllo in atto prima di uscire "}});
     return;
   }
@@ -143,6 +143,7 @@ void CheckDesk::exit_Click() {
 
 void CheckDesk::Leave() {
   queue_.Clear();
+  state_.progress = {};
   form_.Option3.checked = false;
   form_.Frame_Classifica_gene_banda.caption = CheckForm::kQueueTitle;
   archive_.HideWindows();

@@ -67,6 +67,21 @@ void CheckForm::ClearEvidence() {
   QSO_ok.colour.reset();
 }
 
+void CheckForm::ClearScore() {
+  for (Label* label :
+       {&evidenzia, &call_in_esame, &qrb_ufficiale, &err_count, &err_qrb, &qrb_finale}) {
+    label->caption.clear();
+  }
+}
+
+void CheckForm::HideErrors() {
+  if (!List_errori.visible) {
+    return;
+  }
+  List_errori.visible = false;
+  vis_err.caption = vis_err2.caption = "Visualizza errori";
+}
+
 void CheckForm::ClearLists() {
   for (List* list : {&Lista_dubbi, &Lista_locatori, &Lista_err_orario, &Call_unici, &Lista_simili,
                      &lista_call_unici, &List_errori}) {

@@ -129,6 +129,12 @@ struct CheckForm : CheckOptions {
   /// Empties what tells of the selected item.
   void ClearEvidence();
 
+  /// Empties what tells of the call under examination.
+  void ClearScore();
+
+  /// Hides the error list of the call.
+  void HideErrors();
+
   /// Empties the lists of the checks.
   void ClearLists();
 

@@ -16,7 +16,7 @@ constexpr std::size_t kHeaderRow = 0;
 
 void CheckStart::prossimo_Click() {
   if (queue_.ChooseFirstUnchecked()) {
-    state_.salta_conferma = true;
+    state_.progress.salta_conferma = true;
     listacall_banda_DblClick();
   }
 }
@@ -39,9 +39,11 @@ void CheckStart::listacall_banda_DblClick() {
   TakeRow(row);
   const std::string text = state_.queue.RowWithPosition(row);
   const bool checked = ClassificaRow(text).Checked();
-  if (!checked) {
+  const bool holds_decisions = report_.HoldsDecisions();
+  if (!checked && holds_decisions) {
     report_.CutToHead();
-  } else if (!AskForRecheck()) {
+  }
+  if (checked && !AskForRecheck()) {
     EnableDecisions(false);
     return;
   }
@@ -53,7 +55,7 @@ void CheckStart::listacall_banda_DblClick() {
     return;
   }
   locators_.Build();
-  state_.controllo_in_corso = true;
+  state_.progress.controllo_in_corso = true;
   steps_.Advance();
 }
 
@@ -62,7 +64,7 @@ bool CheckStart::MayStart() {
     manager_.Show({.lines = {" E' obbligatorio ricaricare la classifica "}});
     return false;
   }
-  if (std::exchange(state_.salta_conferma, false) || state_.primo_vuoto_scelto) {
+  if (std::exchange(state_.progress.salta_conferma, false) || state_.progress.primo_vuoto_scelto) {
     return true;
   }
   return manager_.Show({.lines = {" Inizio il controllo ?"},
@@ -74,6 +76,8 @@ bool CheckStart::MayStart() {
 void CheckStart::Prepare() {
   form_.ClearLists();
   form_.ClearEvidence();
+  form_.ClearScore();
+  form_.HideErrors();
   steps_.Reset();
   state_.unici_saltati = false;
   state_.errore_in_arrivo = false;

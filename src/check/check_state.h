@@ -10,8 +10,18 @@
 
 namespace velmar {
 
+/// How far the desk is. Another classification does not change it.
+struct CheckProgress {
+  bool classifica_da_salvare = false;  ///< a row was updated and is not written yet
+  bool controllo_in_corso = false;
+  bool salta_conferma = false;      ///< the next start is not asked about
+  bool primo_vuoto_scelto = false;  ///< no start is asked about
+};
+
 /// What the desk holds between two actions of the manager. All of it is lost when it is left.
 struct CheckState {
+  CheckProgress progress;
+
   // The classification.
   std::string categoria;            ///< three letters
   std::string classification_path;  ///< it was read from
@@ -36,12 +46,7 @@ struct CheckState {
   bool errore_forzato_call = false;  ///< the log's own call, to be taken as it stands
   bool believed_wrong = false;
 
-  // How far the desk is.
-  bool classifica_da_salvare = false;  ///< a row was updated and is not written yet
-  bool controllo_in_corso = false;
-  bool salta_conferma = false;      ///< the next start is not asked about
-  bool primo_vuoto_scelto = false;  ///< no start is asked about
-  bool unici_saltati = false;       ///< the check of unique calls was left out
+  bool unici_saltati = false;  ///< the check of unique calls was left out
 };
 
 }  // namespace velmar

@@ -25,10 +25,13 @@ std::string ErrorReport::Path() const {
                                        session_.category_month);
 }
 
+bool ErrorReport::HoldsDecisions() {
+  return SplitLines(files_.ReadAll(Path())).size() > kErrorListHeadLines;
+}
+
 void ErrorReport::CutToHead() {
-  const std::string list = files_.ReadAll(Path());
-  if (SplitLines(list).size() > kErrorListHeadLines) {
-    files_.WriteAll(Path(), ErrorListHeadOf(list));
+  if (HoldsDecisions()) {
+    files_.WriteAll(Path(), ErrorListHeadOf(files_.ReadAll(Path())));
   }
 }
 
@@ -96,8 +99,7 @@ void ErrorReport::vis_err_Click() {
 }
 
 void ErrorReport::List_errori_Click() {
-  form_.List_errori.visible = false;
-  form_.vis_err.caption = form_.vis_err2.caption = "Visualizza errori";
+  form_.HideErrors();
 }
 
 void ErrorReport::stampa_errori_Click() {

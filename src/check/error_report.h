@@ -25,6 +25,9 @@ class ErrorReport {
         form_(form),
         state_(state) {}
 
+  /// Whether the list has more than its head: a check has written into it.
+  bool HoldsDecisions();
+
   /// Cuts a list that holds decisions to its head. A list without any is left alone.
   void CutToHead();
 

@@ -38,13 +38,12 @@ void QueuePanel::Clear() {
   form_.listacall_banda.Fill({});
   form_.ClearLists();
   form_.ClearEvidence();
-  for (Label* label : {&form_.bandaesame, &form_.n_cla, &form_.evidenzia, &form_.call_in_esame,
-                       &form_.qrb_ufficiale, &form_.err_count, &form_.err_qrb, &form_.qrb_finale}) {
-    label->caption.clear();
-  }
+  form_.ClearScore();
+  form_.bandaesame.caption.clear();
+  form_.n_cla.caption.clear();
   form_.Frame_unici.visible = false;
   form_.Frame_Controllo_locatori.visible = false;
-  form_.List_errori.visible = false;
+  form_.HideErrors();
   form_.prossimo.visible = false;
   form_.conf_err_time.caption = "conf. errore Time a :";
   steps_.Reset();
@@ -117,7 +116,7 @@ bool QueuePanel::ChooseFirstUnchecked() {
 
 void QueuePanel::primo_dacontrollare_Click() {
   if (ChooseFirstUnchecked()) {
-    state_.primo_vuoto_scelto = true;
+    state_.progress.primo_vuoto_scelto = true;
   }
 }
 
@@ -131,7 +130,7 @@ void QueuePanel::vai_a_un_call_Click() {
   } else {
     manager_.Show({.lines = {Join(" il call  <", wanted, "> non è in classifica "_a)}});
   }
-  state_.primo_vuoto_scelto = false;
+  state_.progress.primo_vuoto_scelto = false;
 }
 
 void QueuePanel::Visualizza_solo_classifica_Click() {

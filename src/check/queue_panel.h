@@ -45,11 +45,10 @@ class QueuePanel {
   void Visualizza_solo_classifica_Click();
   void LeaveWideView();
 
-  /// Forgets the classification.
+  /// Forgets the classification and the check that may run, but not how far the desk is.
   void Clear();
 
  private:
-  void BeginLoad();
   bool Load(const std::string& path, const std::string& name);
   void Choose(std::size_t row);
 
