@@ -125,6 +125,8 @@ bool CheckStart::SplitStore() {
     manager_.Show({.lines = {" Il file della libreria di categoria è assente. Attenzione "_a}});
     return false;
   }
+  // They point into the older text, and must not outlive it where the disk fails below.
+  state_.qsos = {};
   state_.library = std::move(*library);
   const auto write = [this](std::string_view name, std::string_view text) {
     files_.WriteAll(session_.workspace.scratch(name), text);

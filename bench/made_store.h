@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace velmar::bench {
+
+/// The files of a store that the check of a log reads, as the filing of made-up logs leaves them.
+struct MadeStore {
+  std::string library;
+  std::string participants;
+  std::string classification;  ///< no log has been checked
+};
+
+/// A store of as many logs as told, each with its share of the QSOs, `rows` in all. The log number
+/// `n`, counted from 0, is that of the station `n`. More than a third of the stations that they
+/// worked sent none, and about one QSO in fifty has a locator that is not the station's. The same
+/// numbers give the same bytes everywhere. One and a half times the logs and twice the QSOs of a
+/// log are no more together than kMadeStations.
+MadeStore MakeStore(std::size_t rows, std::size_t logs);
+
+}  // namespace velmar::bench
