@@ -110,6 +110,7 @@ void CheckDesk::Open() {
     form_.Frame1.visible = true;
     queue_.ScanCategories();
   });
+  screen_.Hide(main_);
   screen_.Show(form_);
   if (session_.log_inserted_since_load && session_.classifica_loaded) {
     ports_.manager.Show(
@@ -142,6 +143,7 @@ void CheckDesk::exit_Click() {
 }
 
 void CheckDesk::Leave() {
+  queue_.LeaveWideView();
   queue_.Clear();
   state_.progress = {};
   form_.Option3.checked = false;

@@ -30,7 +30,8 @@ class CheckDesk {
   ArchiveForm& archive_form() { return archive_.form(); }
   NoticesForm& notices_form() { return archive_.notices(); }
 
-  /// Shows the desk, ready to load a classification, with what the settings say.
+  /// Shows the desk in place of the main screen, ready to load a classification, with what the
+  /// settings say.
   void Open();
 
   /// Leaves the desk, where nothing waits to be finished or saved, and keeps the options.

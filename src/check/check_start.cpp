@@ -24,10 +24,10 @@ void CheckStart::prossimo_Click() {
 void CheckStart::listacall_banda_DblClick() {
   const int chosen = form_.listacall_banda.selection;
   const auto row = static_cast<std::size_t>(chosen);
-  if (chosen < 0 || row >= state_.queue.size() || !MayStart()) {
+  if (MustReload() || chosen < 0 || row >= state_.queue.size() || !Agreed()) {
     return;
   }
-  if (row == kHeaderRow) {
+  if (row == kHeaderRow || state_.queue.LooksLikeHeader(row)) {
     form_.ClearEvidence();
     return;
   }
@@ -59,11 +59,14 @@ void CheckStart::listacall_banda_DblClick() {
   steps_.Advance();
 }
 
-bool CheckStart::MayStart() {
+bool CheckStart::MustReload() {
   if (session_.reload_needed) {
     manager_.Show({.lines = {" E' obbligatorio ricaricare la classifica "}});
-    return false;
   }
+  return session_.reload_needed;
+}
+
+bool CheckStart::Agreed() {
   if (std::exchange(state_.progress.salta_conferma, false) || state_.progress.primo_vuoto_scelto) {
     return true;
   }
@@ -82,6 +85,7 @@ void CheckStart::Prepare() {
   state_.unici_saltati = false;
   state_.errore_in_arrivo = false;
   form_.sigla_call.value.clear();
+  form_.Frame_unici.visible = false;
   form_.Frame_Controllo_locatori.visible = true;
   archive_.LoadBook();
 }

@@ -40,10 +40,10 @@ class CheckStart {
   void prossimo_Click();
 
  private:
-  bool MayStart();
+  bool MustReload();
+  bool Agreed();
   void Prepare();
   void TakeRow(std::size_t row);
-  bool RepairErrorList(bool checked);
   bool AskForRecheck();
   void EnableDecisions(bool enabled);
   bool SplitStore();

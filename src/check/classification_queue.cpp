@@ -1,6 +1,7 @@
 #include "check/classification_queue.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/classification_row.h"
 #include "model/lines.h"
@@ -14,26 +15,33 @@ constexpr std::string_view kHeaderMark = " Pwr  Qso Declared";
 constexpr Column kHeaderMarkAt{47, kHeaderMark.size()};
 static_assert(Cut(classification_row::kHeader, kHeaderMarkAt) == kHeaderMark);
 
+/// What only a header has where the result of a check stands.
+constexpr std::string_view kHeaderResult = "ErrQRB";
+static_assert(Holds(Cut(classification_row::kHeader, classification_row::kErrArea), kHeaderResult));
+
 constexpr std::size_t kWholeRow = classification_row::kPercentage.end() - 1;
 
 }  // namespace
 
 bool ToBeChecked(std::string_view row) {
-  return Trim(Cut(row, classification_row::kToBeChecked)).empty();
+  constexpr Column kBlank = classification_row::kToBeChecked;
+  return Cut(row, kBlank) == std::string(kBlank.width, ' ');
 }
 
 bool ClassificationQueue::Read(std::string_view text) {
   Clear();
+  Rows rows;
   LineReader reader(text);
   for (std::string_view line; reader.Next(line);) {
     if (line.empty()) {
       continue;
     }
-    if (empty() && Cut(line, kHeaderMarkAt) != kHeaderMark) {
+    if (rows.empty() && Cut(line, kHeaderMarkAt) != kHeaderMark) {
       return false;
     }
-    rows_.Add(std::string(line));
+    rows.Add(std::string(line));
   }
+  rows_ = std::move(rows);
   return !empty();
 }
 
@@ -49,6 +57,10 @@ std::vector<std::string> ClassificationQueue::Shown(std::string_view separator) 
     shown.push_back(row == 0 ? Row(row) : Join(Row(row), separator, row));
   }
   return shown;
+}
+
+bool ClassificationQueue::LooksLikeHeader(std::size_t row) const {
+  return Holds(ClassificaRow(Row(row)).ErrArea(), kHeaderResult);
 }
 
 bool ClassificationQueue::TooShort(std::size_t row) const {

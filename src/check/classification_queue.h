@@ -15,7 +15,7 @@ namespace velmar {
 class ClassificationQueue {
  public:
   /// Takes the rows of a file in place of the older ones. False where the first one is no header:
-  /// then there are none. Empty lines are passed over; too many rows raise error 9.
+  /// then there are none. Empty lines are passed over; too many rows raise error 9 and leave none.
   bool Read(std::string_view text);
 
   void Clear() { rows_.Clear(); }
@@ -32,6 +32,9 @@ class ClassificationQueue {
   /// `separator`.
   std::vector<std::string> Shown(std::string_view separator) const;
 
+  /// Whether a row is a header, wherever it stands.
+  bool LooksLikeHeader(std::size_t row) const;
+
   /// Whether a row is so short that it lacks what the check starts from.
   bool TooShort(std::size_t row) const;
 
@@ -42,10 +45,12 @@ class ClassificationQueue {
   std::optional<std::size_t> FindCall(std::string_view part) const;
 
  private:
-  BoundedTable<std::string, 370'000> rows_;
+  using Rows = BoundedTable<std::string, 370'000>;
+  Rows rows_;
 };
 
-/// Whether a row of the classification waits for its check.
+/// Whether a row of the classification waits for its check. A row that is too short to tell does
+/// not.
 bool ToBeChecked(std::string_view row);
 
 }  // namespace velmar

@@ -34,7 +34,9 @@ void QueuePanel::ScanCategories() {
 }
 
 void QueuePanel::Clear() {
+  const CheckProgress progress = state_.progress;
   state_ = {};
+  state_.progress = progress;
   form_.listacall_banda.Fill({});
   form_.ClearLists();
   form_.ClearEvidence();
@@ -146,6 +148,7 @@ void QueuePanel::Visualizza_solo_classifica_Click() {
   form_.visualizza_classifica.Fill(rows.Shown(" ("));
   const std::string_view name = form_.bandaesame.caption;
   form_.Text1.value = name.substr(0, name.rfind('.'));
+  LeaveWideView();
   for (const auto& control : form_.controls()) {
     if (control->container == nullptr && control->visible) {
       control->visible = false;

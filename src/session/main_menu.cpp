@@ -83,7 +83,6 @@ void MainMenu::Inserire_log_Click() {
 }
 
 void MainMenu::controlla_locatori_Click() {
-  screen_.Hide(form_);
   steps_.open_check();
 }
 

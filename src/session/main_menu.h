@@ -31,6 +31,7 @@ class MainMenu {
   /// ones: they end the program.
   void Rinomina_ita_Click();
   void Inserire_log_Click();
+  /// Opens the check desk, which takes this screen's place when it is ready.
   void controlla_locatori_Click();
   void Info_Click();
   void CLA_mese_excel_Click();

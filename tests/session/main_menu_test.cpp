@@ -39,6 +39,7 @@ class MainMenuTest : public testing::Test {
   MenuTrap trap{manager};
   MonthAssignment months{session, workspace.files(), manager, trap, clock};
   int opened = 0;
+  int opened_info = 0;
   MainMenu menu{session,
                 workspace.files(),
                 manager,
@@ -47,7 +48,13 @@ class MainMenuTest : public testing::Test {
                 form,
                 months,
                 {.open_recalculation = [this] { NoteOpening(); },
-                 .open_renaming = [this] { NoteOpening(); }}};
+                 .open_renaming = [this] { NoteOpening(); },
+                 .open_check =
+                     [this] {
+                       EXPECT_TRUE(form.visible()) << "the desk takes its place when it is ready";
+                       ++opened;
+                     },
+                 .open_info = [this] { ++opened_info; }}};
 };
 
 TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
@@ -71,6 +78,16 @@ TEST_F(MainMenuTest, LogsThatWaitToBeInsertedEndTheRenaming) {
   EXPECT_THROW(form.Rinomina_ita.Click(), ProgramEnd);
   EXPECT_EQ(opened, 2) << "the screen opens all the same";
   EXPECT_EQ(manager.boxes.at(1), (Box{.lines = {" Programma terminato "}, .icon = Icon::kStop}));
+}
+
+TEST_F(MainMenuTest, TheCheckDeskAndTheNoticesOpen) {
+  form.controlla_locatori.Click();
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(opened_info, 0);
+  form.Info.Click();
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(opened_info, 1);
+  EXPECT_TRUE(manager.boxes.empty());
 }
 
 TEST_F(MainMenuTest, TheWorkbookHasItsGatesInOrder) {
