@@ -29,7 +29,6 @@ Archive::Archive(ContestSession& session, FileSystem& files, Manager& manager, W
       screen_(screen),
       desk_(form),
       state_(state) {
-  browser_.Bar1.visible = false;
   notices_.cmdOK.on_click = [this] { screen_.Hide(notices_); };
 }
 
@@ -37,10 +36,10 @@ void Archive::LoadBook() {
   if (session_.book_loaded || session_.archive_missing) {
     return;
   }
+  session_.archive_missing = true;  // also where the read fails: its error is not told each time
   const auto bytes = ReadIfThere(files_, session_.workspace.call_book());
   if (!bytes) {
     manager_.Show({.lines = {" ARCHIVIO ASSENTE "}});
-    session_.archive_missing = true;
     return;
   }
   auto records = DecodeCallBook(*bytes);
@@ -50,6 +49,7 @@ void Archive::LoadBook() {
   }
   browser_.Bar1.maximum = records->size();
   browser_.Bar1.value = std::to_string(records->size());
+  manager_.Progress(records->size(), records->size());
   browser_.lista_archivio.Fill(*records);
   browser_.tot_in_archivio.caption = std::to_string(records->size());
   if (!records->empty()) {
@@ -57,6 +57,7 @@ void Archive::LoadBook() {
     session_.settings.Set(Setting::kHideUniqueInDatabase, std::string(Settings::kOn));
   }
   session_.call_book = std::move(*records);
+  session_.archive_missing = false;
   session_.book_loaded = true;
 }
 
@@ -66,7 +67,14 @@ void Archive::RefuseBook() {
            " Il file letto dal programma NON è l' archivio call di Varto."_a,
            " Il file ha lo stesso nome ma non contiene le informazioni necessarie",
            " i controlli risulteranno più lunghi e non avranno l'aiuto in caso di dubbi."_a}});
-  session_.archive_missing = true;
+}
+
+/// Loads the book for a look-up, which tells where the one that was read is gone.
+void Archive::NeedBook() {
+  LoadBook();
+  if (session_.book_loaded && session_.archive_missing) {
+    manager_.Show({.lines = {" Archivio interno assente"}});
+  }
 }
 
 std::optional<Archive::Item> Archive::ItemOf(const List& list) {
@@ -97,7 +105,7 @@ void Archive::database_Click() {
   if (!item) {
     return;
   }
-  LoadBook();
+  NeedBook();
   ResultRows rows = FindInDatabase(Sources(), item->call, session_.archive_missing);
   if (!session_.archive_missing) {
     desk_.Locatore_in_log_arrivato.caption.clear();
@@ -130,7 +138,7 @@ void Archive::Tutti_call_Click() {
   if (!item) {
     return;
   }
-  LoadBook();
+  NeedBook();
   desk_.Locatore_in_log_arrivato.caption.clear();
   for (const std::string& row : session_.participants) {
     if (Holds(row, item->call)) {
@@ -145,7 +153,7 @@ void Archive::Tutti_loc_Click() {
   if (!item) {
     return;
   }
-  LoadBook();
+  NeedBook();
   Show(FindNearLocator(session_.call_book, state_.qsos.others, item->locator));
 }
 
@@ -168,8 +176,12 @@ void Archive::ric_in_quel_locatore_Click() {
 void Archive::Vis_archivio_Click() {
   if (browser_.visible()) {
     chiudi_archivio_Click();
-    return;
+  } else {
+    espandi_archivio_Click();
   }
+}
+
+void Archive::espandi_archivio_Click() {
   LoadBook();
   if (const auto item = SelectedItem()) {
     ResultRows found = FindRecords(item->call);
@@ -213,35 +225,41 @@ void Archive::cerca_Click() {
   }
 }
 
-void Archive::OpenPage(const std::string& url) {
-  if (session_.online) {
-    web_.Open(url);
-  } else {
+bool Archive::Online() {
+  if (!session_.online) {
     manager_.Show({.lines = {" Spiacente ma non c'è un collegamento a internet attivo."_a}});
   }
+  return session_.online;
 }
 
 void Archive::OpenMap(std::string_view locator) {
-  OpenPage(Join(hosts::kGridMap, locator, hosts::kGridMapEnd));
+  web_.Open(Join(hosts::kGridMap, locator, hosts::kGridMapEnd));
 }
 
 void Archive::internet_Click() {
+  if (!Online()) {
+    return;
+  }
   if (const auto item = SelectedItem()) {
-    OpenPage(Join(hosts::kCallBook, item->call));
+    web_.Open(Join(hosts::kCallBook, item->call));
   }
 }
 
 void Archive::SEARC_loc_Click() {
+  if (!Online()) {
+    return;
+  }
   if (const auto item = SelectedItem()) {
     OpenMap(item->locator);
   }
 }
 
 void Archive::vedi_locator_Click() {
-  if (const auto row = desk_.Lista_locatori.ChosenRow()) {
-    OpenMap(Cut(*row, qso_line::kLocator));
-  } else {
+  const auto row = desk_.Lista_locatori.ChosenRow();
+  if (!row) {
     SEARC_loc_Click();
+  } else if (Online()) {
+    OpenMap(Cut(*row, qso_line::kLocator));
   }
 }
 

@@ -39,8 +39,9 @@ class Archive {
   void Tutti_loc_Click();
   void ric_in_quel_locatore_Click();
 
-  // The browser.
+  // The browser. The menu item opens and closes it, the button opens it.
   void Vis_archivio_Click();
+  void espandi_archivio_Click();
   void chiudi_archivio_Click();
   void cerca_Click();
 
@@ -63,10 +64,11 @@ class Archive {
   std::optional<Item> SelectedItem() const;
   ArchiveSources Sources() const { return {session_.iaru_table, session_.call_book}; }
   void RefuseBook();
+  void NeedBook();
   void Show(ResultRows rows);
   void SuggestFrom(const std::string& row, std::string_view introduction);
   ResultRows FindRecords(const std::string& text) const;
-  void OpenPage(const std::string& url);
+  bool Online();
   void OpenMap(std::string_view locator);
 
   ContestSession& session_;

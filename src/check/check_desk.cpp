@@ -50,8 +50,12 @@ void CheckDesk::JoinQueue() {
   };
   form_.listacall_banda.on_double_click = [this] {
     trap_.Procedure(20, [this] { start_.listacall_banda_DblClick(); });
+    form_.Bar1.visible = false;  // a start that failed leaves it
   };
-  On(form_.prossimo, 21, [this] { start_.prossimo_Click(); });
+  form_.prossimo.on_click = [this] {
+    trap_.Procedure(21, [this] { start_.prossimo_Click(); });
+    form_.Bar1.visible = false;
+  };
   On(form_.Visualizza_solo_classifica, 16, [this] { queue_.Visualizza_solo_classifica_Click(); });
   On(form_.esci_da_cla, 17, [this] { queue_.LeaveWideView(); });
   On(form_.uscita2, 17, [this] { queue_.LeaveWideView(); });
@@ -84,7 +88,7 @@ void CheckDesk::JoinArchive() {
   On(form_.Tutti_loc, 64, [this] { archive_.Tutti_loc_Click(); });
   On(form_.ric_in_quel_locatore, 65, [this] { archive_.ric_in_quel_locatore_Click(); });
   On(form_.Vis_archivio, 66, [this] { archive_.Vis_archivio_Click(); });
-  On(form_.espandi_archivio, 66, [this] { archive_.Vis_archivio_Click(); });
+  On(form_.espandi_archivio, 66, [this] { archive_.espandi_archivio_Click(); });
   On(archive_.form().chiudi_archivio, 67, [this] { archive_.chiudi_archivio_Click(); });
   On(archive_.form().cerca, 68, [this] { archive_.cerca_Click(); });
   On(form_.internet, 69, [this] { archive_.internet_Click(); });

@@ -31,6 +31,7 @@ CheckForm::CheckForm() {
   titoli.caption = QueueTitles();
   conf_err_time.caption = kTimeError;
   conf_err_RST.caption = kReportError;
+  vis_err.tip = "Visualizza lista errori già in report"_a;
   uscita2.visible = false;
   Frame_unici.visible = false;
   Frame_Controllo_locatori.visible = false;
@@ -88,6 +89,7 @@ void CheckForm::ClearLists() {
     list->Fill({});
   }
   N_dubbi.caption.clear();
+  HideErrors();
 }
 
 }  // namespace velmar

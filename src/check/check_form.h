@@ -135,7 +135,7 @@ struct CheckForm : CheckOptions {
   /// Hides the error list of the call.
   void HideErrors();
 
-  /// Empties the lists of the checks.
+  /// Empties the lists of the checks, and hides the error list.
   void ClearLists();
 
   static constexpr std::string_view kQueueTitle = "Classifica generale di banda";

@@ -11,6 +11,7 @@ namespace velmar {
 namespace {
 
 constexpr std::size_t kHeaderRow = 0;
+constexpr std::size_t kStoreSteps = 4;  ///< read, part, write, compare
 
 }  // namespace
 
@@ -55,6 +56,7 @@ void CheckStart::listacall_banda_DblClick() {
     return;
   }
   locators_.Build();
+  ShowProgress(kStoreSteps);
   state_.progress.controllo_in_corso = true;
   steps_.Advance();
 }
@@ -80,7 +82,6 @@ void CheckStart::Prepare() {
   form_.ClearLists();
   form_.ClearEvidence();
   form_.ClearScore();
-  form_.HideErrors();
   steps_.Reset();
   state_.unici_saltati = false;
   state_.errore_in_arrivo = false;
@@ -135,11 +136,21 @@ bool CheckStart::SplitStore() {
   const auto write = [this](std::string_view name, std::string_view text) {
     files_.WriteAll(session_.workspace.scratch(name), text);
   };
+  ShowProgress(1);
   write("libreria.tmp", state_.library);
   state_.qsos = SplitLibrary(state_.library, state_.call_in_esame);
+  ShowProgress(2);
   write(Join(state_.categoria, "log_da_verificare.tmp"), RowsText(state_.qsos.log));
   write(Join(state_.categoria, "Libreria_temp.tmp"), RowsText(state_.qsos.others));
+  ShowProgress(3);
   return true;
+}
+
+void CheckStart::ShowProgress(std::size_t done) {
+  form_.Bar1.maximum = kStoreSteps;
+  form_.Bar1.value = std::to_string(done);
+  form_.Bar1.visible = done < kStoreSteps;
+  manager_.Progress(done, kStoreSteps);
 }
 
 }  // namespace velmar

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "check/archive.h"
@@ -47,6 +48,7 @@ class CheckStart {
   bool AskForRecheck();
   void EnableDecisions(bool enabled);
   bool SplitStore();
+  void ShowProgress(std::size_t done);
 
   ContestSession& session_;
   FileSystem& files_;

@@ -54,7 +54,7 @@ bool ErrorReport::AlreadyListed(const std::string& call) {
   }
   manager_.Show(
       {.lines = {
-           Join(" Il call ", RTrim(call), " è già presente  sulla lista degli errori "_a), "    ",
+           Join(" Il call ", call, " è già presente  sulla lista degli errori "_a), "    ",
            " SE per lo stesso call sono stati commessi più errori, non è possibile penalizzarlo più di una volta. "_a,
            " Per proseguire considera valido il qso."}});
   return true;

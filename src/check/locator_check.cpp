@@ -104,7 +104,7 @@ std::optional<LocatorCheck::Doubt> LocatorCheck::Selected() const {
   }
   return Doubt{.call = std::string(Cut(*line, qso_line::kCall)),
                .locator = std::string(Cut(*line, qso_line::kLocator)),
-               .points = std::string(Cut(*line, qso_line::kPoints)),
+               .points = std::string(LTrim(Cut(*line, qso_line::kPoints))),
                .ordinal = std::string(Cut(*line, qso_line::kOrdinal))};
 }
 

@@ -45,7 +45,6 @@ void QueuePanel::Clear() {
   form_.n_cla.caption.clear();
   form_.Frame_unici.visible = false;
   form_.Frame_Controllo_locatori.visible = false;
-  form_.HideErrors();
   form_.prossimo.visible = false;
   form_.conf_err_time.caption = "conf. errore Time a :";
   steps_.Reset();

@@ -103,6 +103,7 @@ class Control {
   const std::string name;
   std::string caption;  ///< the text that a label, button, menu item, check or option shows
   std::string value;    ///< the text of a text field or combo box, the number of a progress bar
+  std::string tip;      ///< shown beside the pointer that rests on it
   Items items;          ///< the rows of a list, combo box, file list or grid
   int selection = -1;   ///< the chosen row, counted from 0; -1 for none
   bool visible = true;

@@ -114,5 +114,41 @@ TEST(ClassificationRow, ReadersTakeTheirOwnColumns) {
   EXPECT_FALSE(ClassificaRow("short").Checked());
 }
 
+// A check replaces an older one: what stands ahead of it, the mark and the position stay.
+TEST(CheckedRow, HasTheResultInPlaceOfAnOlderOne) {
+  const std::string row = ClassificationRow(kUsual);
+  const std::string start =
+      "IK2QAA/P     JN45NK  120  9 el. yagi           100  85   21344   9A1CCC     512   21340    ";
+  ASSERT_EQ(Left(row, 91), start);
+  const struct {
+    CheckTotals totals;
+    const char* result;
+  } cases[] = {{{.errors = 0, .lost = 0, .final = 21340}, " 0    0       21340     0.0%  Y"},
+               {{.errors = 3, .lost = 1234, .final = 20106}, " 3    1234    20106     3.5%  Y"},
+               {{.errors = 85, .lost = 21397, .final = -57}, " 85   21397  -57        100%  Y"},
+               {{.errors = 12345, .lost = 12345678, .final = 1234567890},
+                " 1234 1234567 123456789 145%  Y"}};
+  for (const auto& [totals, result] : cases) {
+    const std::string checked = CheckedRow(row, totals);
+    EXPECT_EQ(checked, start + result);
+    EXPECT_EQ(CheckedRow(checked + "  17", totals), checked + "  17") << "again, in the queue";
+  }
+  EXPECT_EQ(
+      CheckedRow("IK2QAA" + std::string(46, ' ') + "4", {.errors = 1, .lost = 5, .final = -5}),
+      "IK2QAA" + std::string(46, ' ') + "4" + std::string(38, ' ') +
+          " 1    5      -5        25.0%   ")
+      << "a row that ends early";
+  EXPECT_THROW(CheckedRow("IK2QAA", {}), RunTimeError);
+}
+
+TEST(WithDxMark, SetsOneColumn) {
+  const std::string row = ClassificationRow(kUsual);
+  const std::string marked = WithDxMark(row, '*');
+  EXPECT_EQ(Cut(marked, classification_row::kDxMark), "*");
+  EXPECT_EQ(Left(marked, 64), Left(row, 64));
+  EXPECT_EQ(Mid(marked, 66), Mid(row, 66));
+  EXPECT_EQ(WithDxMark(marked, ' '), row);
+}
+
 }  // namespace
 }  // namespace velmar
