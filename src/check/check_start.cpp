@@ -58,6 +58,7 @@ void CheckStart::listacall_banda_DblClick() {
   locators_.Build();
   ShowProgress(kStoreSteps);
   state_.progress.controllo_in_corso = true;
+  form_.prossimo.visible = false;  // it would drop this check
   steps_.Advance();
 }
 
@@ -86,6 +87,8 @@ void CheckStart::Prepare() {
   state_.unici_saltati = false;
   state_.errore_in_arrivo = false;
   form_.sigla_call.value.clear();
+  form_.conf_err_time.caption = CheckForm::kTimeError;
+  form_.conf_err_RST.caption = CheckForm::kReportError;
   form_.Frame_unici.visible = false;
   form_.Frame_Controllo_locatori.visible = true;
   archive_.LoadBook();
@@ -95,6 +98,7 @@ void CheckStart::TakeRow(std::size_t row) {
   const ClassificaRow columns(state_.queue.Row(row));
   state_.indice_riga = row;
   state_.call_in_esame = columns.Call();
+  form_.call_in_esame.caption = state_.call_in_esame;
   state_.locatore_in_esame = RTrim(columns.Locator());
   state_.dx_call = columns.Odx();
 }

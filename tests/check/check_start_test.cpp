@@ -185,10 +185,14 @@ TEST(CheckStart, ACheckedLogIsLookedAtWithoutDeciding) {
   EXPECT_EQ(desk.DecisionButtons(), "--------");
   EXPECT_FALSE(desk.UpdateInReach());
   EXPECT_TRUE(desk.form.Lista_dubbi.items.rows().empty());
+  EXPECT_EQ(desk.form.call_in_esame.caption, "IK2QAA");
+  EXPECT_EQ(desk.form.evidenzia.caption, "");
+  EXPECT_TRUE(desk.form.prossimo.visible);
   desk.form.vis_err2.Click();
   EXPECT_EQ(desk.form.List_errori.items.rows().size(), 7U);
   desk.Started("IV3QYY");
   EXPECT_EQ(desk.DecisionButtons(), "++++++++");
+  EXPECT_FALSE(desk.form.prossimo.visible) << "the next start would drop this check";
 }
 
 TEST(CheckStart, WhatIsLookedAtHidesTheCheckThatRan) {
