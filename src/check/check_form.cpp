@@ -64,6 +64,9 @@ void CheckForm::ClearEvidence() {
   err_loc_log.visible = false;
   LBL_doppioclick.visible = false;
   vedi_locator.caption = "Visualizza in mappa il locatore : ";
+  internet.caption = "cerca su QRZ";
+  SEARC_loc.caption = "Mappa ";
+  ric_in_quel_locatore.caption = "cerca in ";
   conferma_errore.colour.reset();
   QSO_ok.colour.reset();
 }

@@ -102,8 +102,6 @@ struct CheckForm : CheckOptions {
   Frame& Frame_unici = AddLabel("Frame_unici", "    Call unici    ");
   List& Call_unici =
       In(Frame_unici, AddList("Call_unici", "Log         Call        Loc.   QRB  n."));
-  List& lista_call_unici =
-      In(Frame_unici, AddList("lista_call_unici", "Loc.      Call        Log"));
   List& Lista_simili =
       In(Frame_unici, AddList("Lista_simili", "Log         Call        Loc.   QRB"));
   Button& Controlla_estero = In(Frame_unici, AddButton("Controlla_estero", "Cerca call estero"));
@@ -119,6 +117,9 @@ struct CheckForm : CheckOptions {
   Button& SEARC_loc = In(Frame_ricerche, AddButton("SEARC_loc", "Mappa "));
   Button& espandi_archivio =
       In(Frame_ricerche, AddButton("espandi_archivio", "visualizza Archivio"));
+
+  List& lista_call_unici =
+      In(Frame_ricerche, AddList("lista_call_unici", "Loc.      Call        Log"));
 
   // The wide view, in place of all the rest.
   Frame& Frame_solo_classifica = AddLabel("Frame_solo_classifica", "Solo Classifica");

@@ -47,6 +47,7 @@ void QueuePanel::Clear() {
   form_.Frame_Controllo_locatori.visible = false;
   form_.prossimo.visible = false;
   form_.conf_err_time.caption = "conf. errore Time a :";
+  form_.conf_err_RST.caption = CheckForm::kReportError;
   steps_.Reset();
 }
 

@@ -70,6 +70,7 @@ void Combo::Select(int row) {
 }
 
 void Screen::Show(Form& form) {
+  ++shows_;
   std::erase(visible_forms_, &form);
   visible_forms_.insert(visible_forms_.begin(), &form);
   if (!form.visible_) {

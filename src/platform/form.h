@@ -111,7 +111,7 @@ class Control {
   bool checked = false;
   std::optional<int> colour;           ///< of the background; nothing for the usual one
   const Control* container = nullptr;  ///< the menu or the frame that it hangs in
-  int top = -1;                        ///< the row that a list is to begin with; -1: any
+  int top = -1;  ///< the row that a list is to begin with; -1: any. A window takes it back.
 
   std::function<void()> on_click;
   std::function<void()> on_double_click;
@@ -241,7 +241,7 @@ class Screen {
  public:
   void Add(Form& form) { forms_.push_back(&form); }
 
-  /// Shows a form and puts it on top.
+  /// Shows a form and puts it on top, which a window that is seen already is raised for.
   void Show(Form& form);
   void Hide(Form& form);
 
@@ -250,12 +250,16 @@ class Screen {
   /// The visible forms, the one on top first.
   const std::vector<Form*>& visible_forms() const { return visible_forms_; }
 
+  /// How often a form was put on top.
+  std::size_t shows() const { return shows_; }
+
   /// Called when a form begins or ends to be seen.
   std::function<void(Form& form)> on_visibility;
 
  private:
   std::vector<Form*> forms_;
   std::vector<Form*> visible_forms_;
+  std::size_t shows_ = 0;
 };
 
 }  // namespace velmar

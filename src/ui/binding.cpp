@@ -30,13 +30,30 @@ void SetText(Widget& widget, const QString& text) {
   }
 }
 
+/// The mark that tells a colour's meaning by its shape, with a blank behind it; nothing for a
+/// colour that has none.
+QString MarkOf(std::optional<int> colour, const QString& at_yellow) {
+  switch (colour.value_or(colour::kWhite)) {
+    case colour::kGreen:
+      return QStringLiteral("✓ ");
+    case colour::kYellow:
+      return at_yellow;
+    case colour::kRed:
+    case colour::kLightRed:
+      return QStringLiteral("✗ ");
+    default:
+      return {};
+  }
+}
+
 /// Buttons of all kinds: the caption, the tick, the click.
 BindingPtr BindButton(QAbstractButton& widget, Control& control, EventRunner& runner) {
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&control, &runner] {
     Act(runner, control, [](Control& clicked) { clicked.Click(); });
   });
   return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
-    SetText(widget, ToQString(control.caption));
+    const QString mark = MarkOf(control.colour, QStringLiteral("? "));
+    SetText(widget, mark + ToQString(control.caption));
     widget.setChecked(control.checked);
   });
 }
@@ -47,13 +64,6 @@ void DrawLine(QLineEdit& widget, const Control& control) {
     const int cursor = widget.cursorPosition();
     widget.setText(text);
     widget.setCursorPosition(widget.hasFocus() ? cursor : 0);
-  }
-}
-
-void DrawCaption(QLabel* caption, const Control& control) {
-  if (caption != nullptr) {
-    SetText(*caption, ToShownRow(control.caption));
-    caption->setVisible(control.visible);
   }
 }
 
@@ -84,6 +94,13 @@ void DrawCombo(QComboBox& widget, const Control& control) {
 
 }  // namespace
 
+void DrawCaption(QLabel* caption, const Control& control) {
+  if (caption != nullptr) {
+    SetText(*caption, ToShownRow(control.caption));
+    caption->setVisible(control.visible);
+  }
+}
+
 bool Shows(const Control& control) {
   return control.visible && (control.kind() != ControlKind::kLabel || !control.caption.empty());
 }
@@ -112,10 +129,14 @@ BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner) {
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner) {
   widget.setTextFormat(Qt::PlainText);
   return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
-    const QString mark = !control.colour                    ? QString()
-                         : control.colour == colour::kGreen ? QStringLiteral("✓ ")
-                                                            : QStringLiteral("✗ ");
+    const QString mark = MarkOf(control.colour, QStringLiteral("▶ "));
     SetText(widget, (mark + ToShownRow(control.caption)).trimmed());
+  });
+}
+
+BindingPtr BindPicture(QLabel& widget, Label& control, EventRunner& runner) {
+  return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
+    SetText(widget, ToShownRow(control.caption));
   });
 }
 

@@ -53,15 +53,18 @@ using BindingPtr = std::unique_ptr<Binding>;
 /// Whether a control has anything to show. A label without a text takes no room.
 bool Shows(const Control& control);
 
-// Bind a widget to a control of its kind. Widget, control and runner outlive the binding.
+// Bind a widget to a control of its kind. Widget, control and runner outlive the binding. A button
+// with a colour bears a mark as well, for those who cannot tell the colours apart.
 BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner);
 BindingPtr Bind(QCheckBox& widget, Check& control, EventRunner& runner);
 BindingPtr Bind(QRadioButton& widget, Option& control, EventRunner& runner);
 BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner);
 BindingPtr Bind(QComboBox& widget, Combo& control, EventRunner& runner);
-BindingPtr Bind(RowView& widget, List& control, EventRunner& runner);
 BindingPtr Bind(RowView& widget, FileList& control, EventRunner& runner);
 BindingPtr Bind(QProgressBar& widget, ProgressBar& control, EventRunner& runner);
+
+/// A list. `caption`, if any, shows the control's caption above it, and is seen with it.
+BindingPtr Bind(RowView& widget, List& control, EventRunner& runner, QLabel* caption = nullptr);
 
 /// A grid: its first row and first column are the headings.
 BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner);
@@ -78,6 +81,9 @@ BindingPtr Bind(QPlainTextEdit& widget, TextField& control, EventRunner& runner,
 
 /// A label whose colour tells a state: besides the colour it bears a mark that differs in shape.
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner);
+
+/// A picture, which is to be seen with or without a text.
+BindingPtr BindPicture(QLabel& widget, Label& control, EventRunner& runner);
 
 /// Builds a menu bar out of the menu controls among `controls`: an item without a parent is a menu,
 /// or an action of the bar when nothing hangs in it.

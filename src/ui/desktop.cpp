@@ -4,13 +4,19 @@
 #include <QTimer>
 #include <utility>
 
+#include "check/check_desk.h"
 #include "intake/renaming.h"
 #include "platform/ansi.h"
+#include "session/info_form.h"
+#include "ui/archive_window.h"
+#include "ui/check_window.h"
 #include "ui/config_window.h"
 #include "ui/event_runner.h"
+#include "ui/info_page.h"
 #include "ui/look.h"
 #include "ui/main_window.h"
 #include "ui/month_window.h"
+#include "ui/notices_window.h"
 #include "ui/recalculation_window.h"
 #include "ui/renaming_window.h"
 
@@ -23,6 +29,10 @@ Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
   Add(std::make_unique<ConfigWindow>(program.config_dialog().form(), runner));
   Add(std::make_unique<RecalculationWindow>(program.recalculation().form(), runner));
   Add(std::make_unique<RenamingWindow>(program.renaming().form(), runner));
+  Add(std::make_unique<CheckWindow>(program.check_desk().form(), runner));
+  Add(std::make_unique<ArchiveWindow>(program.check_desk().archive_form(), runner));
+  Add(std::make_unique<NoticesWindow>(program.check_desk().notices_form(), runner));
+  Add(std::make_unique<InfoPage>(program.info_form(), runner));
   program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };
   runner.on_refresh = [this] { Refresh(); };
   runner.on_failure = [this](const std::string& what) { TellFailure(what); };
@@ -67,7 +77,10 @@ void Desktop::Refresh() {
   }
   const auto& visible = program_.screen().visible_forms();
   const Form* top = visible.empty() ? nullptr : visible.front();
-  if (std::exchange(top_, top) != top && top != nullptr) {
+  const bool other = std::exchange(top_, top) != top;
+  // A window that the person put behind another one comes back when its form is shown again.
+  const bool again = std::exchange(shows_, program_.screen().shows()) != program_.screen().shows();
+  if ((other || again) && top != nullptr) {
     if (FormWindow* window = WindowOf(*top)) {
       window->raise();
       window->activateWindow();

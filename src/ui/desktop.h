@@ -33,6 +33,7 @@ class Desktop {
   EventRunner& runner_;
   Manager& manager_;
   const Form* top_ = nullptr;  ///< the form whose window was put on top last
+  std::size_t shows_ = 0;      ///< of the screen, at the last refresh
   std::map<const Form*, std::unique_ptr<FormWindow>> windows_;
 };
 

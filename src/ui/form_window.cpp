@@ -8,13 +8,17 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <algorithm>
 #include <utility>
 
+#include "ui/column_titles.h"
+#include "ui/emblem.h"
 #include "ui/event_runner.h"
 #include "ui/look.h"
 #include "ui/path_view.h"
 #include "ui/qt_text.h"
+#include "ui/row_view.h"
 #include "ui/widget_binding.h"
 
 namespace velmar {
@@ -87,6 +91,14 @@ QWidget* FormWindow::MakeTitled(const QString& title, Label& control) {
   return pair;
 }
 
+FormWindow::Columns FormWindow::MakeColumns(List& control) {
+  const Columns columns{new ColumnTitles, new RowView};
+  columns.titles->Follow(*columns.rows);
+  SetQuiet(*columns.titles);
+  AddBinding(Bind(*columns.rows, control, runner_, columns.titles));
+  return columns;
+}
+
 QLabel* FormWindow::MakeLamp(Label& control) {
   auto* label = new QLabel;
   label->setAlignment(Qt::AlignCenter);
@@ -95,12 +107,32 @@ QLabel* FormWindow::MakeLamp(Label& control) {
   return label;
 }
 
+QLabel* FormWindow::MakeEmblem(Label& control) {
+  auto* emblem = new Emblem;
+  AddBinding(BindPicture(*emblem, control, runner_));
+  return emblem;
+}
+
 void FormWindow::MakeMenu() {
   std::ranges::move(BindMenu(*menuBar(), form_.controls(), runner_), std::back_inserter(bindings_));
 }
 
 void FormWindow::ShowWithAny(QWidget& group, std::vector<const Control*> controls) {
   groups_.push_back({&group, std::move(controls)});
+}
+
+void FormWindow::SetKey(const Control& button, const QKeySequence& key) {
+  auto* widget = findChild<QAbstractButton*>(ToQString(button.name));
+  auto* shortcut = new QShortcut(key, this);
+  shortcut->setAutoRepeat(false);  // a key that is held down decides once
+  connect(shortcut, &QShortcut::activated, widget, [widget] {
+    if (widget->isVisible()) {
+      widget->click();
+    }
+  });
+  const QString name = key.toString(QKeySequence::NativeText);
+  const QString told = widget->toolTip();
+  widget->setToolTip(told.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(told, name));
 }
 
 void FormWindow::SetDefault(QPushButton& button) {

@@ -8,8 +8,11 @@
 #include "ui/binding.h"
 
 class QGroupBox;
+class QKeySequence;
 
 namespace velmar {
+
+class ColumnTitles;
 
 /// The window of a form: owns what binds its widgets to the controls. Its title, its controls and
 /// the focus are the form's; a window of a form adds the layout.
@@ -51,11 +54,23 @@ class FormWindow : public QMainWindow {
   /// Makes a label that holds a bare value, with a title before it that comes and goes with it.
   QWidget* MakeTitled(const QString& title, Label& control);
 
+  /// Makes a list with its caption above it, as the titles of its columns.
+  struct Columns {
+    ColumnTitles* titles;
+    RowView* rows;
+  };
+  Columns MakeColumns(List& control);
+
   QLabel* MakeLamp(Label& control);
+  QLabel* MakeEmblem(Label& control);
   void MakeMenu();
 
   /// Hides `group` while none of `controls` shows anything.
   void ShowWithAny(QWidget& group, std::vector<const Control*> controls);
+
+  /// Lets a key do what a click on a button does, while the button can be clicked. The pointer
+  /// brings up its name.
+  void SetKey(const Control& button, const QKeySequence& key);
 
   /// The button that Enter presses wherever the focus is.
   void SetDefault(QPushButton& button);

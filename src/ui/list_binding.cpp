@@ -1,7 +1,9 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QScrollBar>
 #include <QTableView>
+#include <utility>
 
 #include "ui/binding.h"
 #include "ui/event_runner.h"
@@ -30,26 +32,46 @@ void RefreshRows(RowView& view, RowsModel& model) {
   }
 }
 
-BindingPtr BindRows(RowView& view, Control& control, EventRunner& runner) {
+void DoubleClick(EventRunner& runner, Control& control) {
+  Act(runner, control, [](Control& clicked) { clicked.DoubleClick(); });
+}
+
+void Draw(RowView& view, RowsModel& model, Control& control, QLabel* caption) {
+  RefreshRows(view, model);
+  view.ShowChoice(control.selection);
+  // Taken back: from now on the person moves the rows, until an event does so again.
+  if (const int top = std::exchange(control.top, -1); top >= 0) {
+    view.BeginWith(top);
+  }
+  DrawCaption(caption, control);
+}
+
+BindingPtr BindRows(RowView& view, Control& control, EventRunner& runner,
+                    QLabel* caption = nullptr) {
   auto* model = new RowsModel(control, view.fontMetrics(), &view);
   view.setModel(model);
   view.on_row_by_key = [&control, &runner](int row) { SelectRow(runner, control, row); };
   QObject::connect(
       &view, &QListView::clicked, &view,
       [&control, &runner](const QModelIndex& index) { SelectRow(runner, control, index.row()); });
-  QObject::connect(&view, &QListView::doubleClicked, &view, [&control, &runner] {
-    Act(runner, control, [](Control& clicked) { clicked.DoubleClick(); });
-  });
-  return std::make_unique<WidgetBinding>(view, control, runner, [&view, &control, model] {
-    RefreshRows(view, *model);
-    view.ShowChoice(control.selection);
+  QObject::connect(&view, &QListView::doubleClicked, &view,
+                   [&control, &runner] { DoubleClick(runner, control); });
+  view.on_enter = [&control, &runner] {
+    const bool opens = control.on_double_click != nullptr;
+    if (opens) {
+      DoubleClick(runner, control);
+    }
+    return opens;
+  };
+  return std::make_unique<WidgetBinding>(view, control, runner, [&view, &control, model, caption] {
+    Draw(view, *model, control, caption);
   });
 }
 
 }  // namespace
 
-BindingPtr Bind(RowView& widget, List& control, EventRunner& runner) {
-  return BindRows(widget, control, runner);
+BindingPtr Bind(RowView& widget, List& control, EventRunner& runner, QLabel* caption) {
+  return BindRows(widget, control, runner, caption);
 }
 
 BindingPtr Bind(RowView& widget, FileList& control, EventRunner& runner) {
@@ -68,9 +90,8 @@ BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner) {
                    [&control, &runner](const QModelIndex& index) {
                      SelectRow(runner, control, index.row() + 1);
                    });
-  QObject::connect(&widget, &QTableView::doubleClicked, &widget, [&control, &runner] {
-    Act(runner, control, [](Control& clicked) { clicked.DoubleClick(); });
-  });
+  QObject::connect(&widget, &QTableView::doubleClicked, &widget,
+                   [&control, &runner] { DoubleClick(runner, control); });
   return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control, model] {
     model->Refresh();
     if (control.selection < 1) {

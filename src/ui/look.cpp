@@ -15,6 +15,12 @@ namespace {
 
 constexpr int kPointSize = 10;
 
+/// A screen that the rows of a classification, some 140 characters, do not fit in the usual size.
+constexpr int kNarrowScreen = 1200;
+
+/// What the window system puts around a window, in px.
+constexpr QMargins kFrame(5, 27, 5, 5);
+
 /// The usual style with more air around the captions of buttons.
 class RoomyStyle : public QProxyStyle {
  public:
@@ -59,7 +65,11 @@ void ApplyLook() {
 }
 
 QFont FixedFont() {
-  return AtLeast(QFontDatabase::systemFont(QFontDatabase::FixedFont), kPointSize);
+  QFont font = AtLeast(QFontDatabase::systemFont(QFontDatabase::FixedFont), kPointSize);
+  if (QGuiApplication::primaryScreen()->availableSize().width() < kNarrowScreen) {
+    font.setPointSize(kPointSize - 1);
+  }
+  return font;
 }
 
 QFont HeadingFont(int larger) {
@@ -83,7 +93,7 @@ void SetCaption(QLabel& label) {
 }
 
 void Centre(QWidget& widget) {
-  const QRect room = widget.screen()->availableGeometry();
+  const QRect room = widget.screen()->availableGeometry().marginsRemoved(kFrame);
   widget.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
                                          widget.size().boundedTo(room.size()), room));
 }

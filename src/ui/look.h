@@ -14,7 +14,7 @@ inline constexpr int kSpacing = 8;
 /// Gives the whole application its style, colours and font sizes.
 void ApplyLook();
 
-/// The font of lists and of rows with fixed columns.
+/// The font of lists and of rows with fixed columns. It is smaller on a narrow screen.
 QFont FixedFont();
 
 /// The font of headings, `larger` points above the usual one.
@@ -26,7 +26,7 @@ void SetQuiet(QLabel& label);
 /// The same in a smaller font, for a caption above what it belongs to.
 void SetCaption(QLabel& label);
 
-/// Puts a widget in the middle of its screen.
+/// Puts a window in the middle of its screen, no larger than what its frame leaves room for.
 void Centre(QWidget& widget);
 
 }  // namespace velmar

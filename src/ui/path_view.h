@@ -5,8 +5,8 @@
 
 namespace velmar {
 
-// Widgets for a path, which may be far longer than there is room: what is cut is its middle, and
-// the pointer brings up the whole of it.
+// Widgets for a path, or for another line that may be longer than there is room: what is cut is its
+// middle, and the pointer brings up the whole of it.
 
 class PathLabel : public QLabel {
  public:

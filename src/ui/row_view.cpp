@@ -2,6 +2,7 @@
 
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QStyle>
 
 #include "ui/look.h"
 
@@ -27,7 +28,20 @@ void RowView::ShowChoice(int row) {
   }
 }
 
+void RowView::BeginWith(int row) {
+  scrollTo(model()->index(row, 0), PositionAtTop);
+}
+
+int RowView::TextMargin() const {
+  return style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+}
+
 void RowView::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && currentIndex().isValid() && on_enter && on_enter()) {
+    event->accept();
+    return;
+  }
   const int before = currentIndex().row();
   QListView::keyPressEvent(event);
   const int after = currentIndex().row();

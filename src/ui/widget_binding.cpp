@@ -73,6 +73,7 @@ WidgetBinding::WidgetBinding(QWidget& widget, Control& control, EventRunner& run
                              std::function<void()> draw)
     : Binding(control), widget_(widget), runner_(runner), draw_(std::move(draw)) {
   widget.setObjectName(ToQString(control.name));
+  widget.setToolTip(ToQString(control.tip));
   widget.installEventFilter(this);
 }
 

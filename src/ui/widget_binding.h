@@ -31,6 +31,10 @@ class WidgetBinding : public QObject, public Binding {
   std::optional<int> painted_;  ///< the colour that the widget has now
 };
 
+/// Draws a control's caption in a label of its own, if there is one, which is seen with the
+/// control.
+void DrawCaption(QLabel* caption, const Control& control);
+
 /// What a person does to a control: runs `event` when the control can be reached, and draws again
 /// in any case, so that a tick that the toolkit set by itself does not stay.
 void Act(EventRunner& runner, Control& control, std::function<void(Control&)> event);

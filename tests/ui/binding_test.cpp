@@ -125,6 +125,46 @@ TEST(ListBinding, CellsStandInColumns) {
   EXPECT_GT(at(3, "I2A"), 30);
 }
 
+TEST(ListBinding, AnEventMovesTheRowsAndThenThePersonDoes) {
+  Fixture fixture;
+  RowView& view = *fixture.window.list;
+  const auto first = [&] { return view.indexAt({5, 5}).row(); };
+  const auto choose = [&] {
+    fixture.runner.Run([&] {
+      fixture.form.list.selection = 503;
+      fixture.form.list.top = 500;
+    });
+  };
+  fixture.runner.Run([&] { fixture.form.list.items.Assign(Rows(1000)); });
+  choose();
+  EXPECT_EQ(first(), 500);
+  EXPECT_EQ(view.currentIndex().row(), 503);
+  view.verticalScrollBar()->setValue(10);
+  fixture.runner.Run([] {});
+  EXPECT_EQ(first(), 10) << "a later event moves what the person has moved";
+  ClickRow(view, 11);
+  EXPECT_EQ(first(), 10);
+  choose();
+  view.verticalScrollBar()->setValue(10);
+  choose();
+  EXPECT_EQ(first(), 500) << "the same row is asked for again";
+}
+
+TEST(ListBinding, EnterOpensWhatADoubleClickOpens) {
+  Fixture fixture;
+  int opened = 0;
+  int keys = 0;
+  fixture.form.list.on_double_click = [&] { ++opened; };
+  fixture.form.list.on_click = [&] { ++keys; };
+  fixture.runner.Run([&] {
+    fixture.form.list.items.Assign(Rows(3));
+    fixture.form.list.selection = 2;
+  });
+  QTest::keyClick(fixture.window.list, Qt::Key_Enter);
+  EXPECT_EQ(opened, 1);
+  EXPECT_EQ(keys, 0);
+}
+
 TEST(GridBinding, TheFirstRowAndColumnAreHeadings) {
   Fixture fixture;
   fixture.runner.Run([&] {
@@ -203,6 +243,23 @@ TEST(LampBinding, StatesDifferInShapeToo) {
   EXPECT_EQ(fixture.window.lamp->text(), QStringLiteral("✓ Excel"));
   fixture.runner.Run([&] { fixture.form.lamp.colour = colour::kRed; });
   EXPECT_EQ(fixture.window.lamp->text(), QStringLiteral("✗ Excel"));
+  fixture.runner.Run([&] { fixture.form.lamp.colour = colour::kYellow; });
+  EXPECT_EQ(fixture.window.lamp->text(), QStringLiteral("▶ Excel"));
+}
+
+TEST(ButtonBinding, AColourHasAMarkToo) {
+  Fixture fixture;
+  struct Case {
+    std::optional<int> colour;
+    const char* text;
+  };
+  for (const Case& expected :
+       {Case{colour::kGreen, "✓ C&omando"}, Case{colour::kYellow, "? C&omando"},
+        Case{colour::kRed, "✗ C&omando"}, Case{colour::kWhite, "C&omando"},
+        Case{std::nullopt, "C&omando"}}) {
+    fixture.runner.Run([&] { fixture.form.button.colour = expected.colour; });
+    EXPECT_EQ(fixture.window.button->text().toStdString(), expected.text);
+  }
 }
 
 TEST(FocusBinding, AnEventPutsTheFocusEachTimeItAsks) {

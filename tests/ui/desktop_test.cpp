@@ -70,6 +70,21 @@ TEST(Desktop, TheWindowsFollowTheForms) {
   EXPECT_TRUE(fixture.main_window.windowTitle().contains("GENNAIO 2025"));
 }
 
+TEST(Desktop, AWindowThatIsShownAgainComesBackToTheTop) {
+  DesktopFixture fixture;
+  Form& desk = fixture.program.check_desk().form();
+  Form& notices = fixture.program.check_desk().notices_form();
+  fixture.Show(desk);
+  fixture.Show(notices);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fixture.Window(notices)));
+  fixture.Window(desk).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&fixture.Window(desk)));
+  fixture.runner.Run([] {});
+  EXPECT_TRUE(fixture.Window(desk).isActiveWindow()) << "any event takes the person elsewhere";
+  fixture.Show(notices);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&fixture.Window(notices)));
+}
+
 TEST(Desktop, TheMonthCannotBeTyped) {
   StartedFixture fixture;
   auto* month = fixture.month_window.findChild<QComboBox*>("Combo_mese");

@@ -8,9 +8,11 @@
 #include <functional>
 
 #include "app/program.h"
+#include "check/check_desk.h"
 #include "intake/recalculation.h"
 #include "intake/renaming.h"
 #include "session/config_dialog.h"
+#include "session/info_form.h"
 #include "session/main_form.h"
 #include "session/month_dialog.h"
 #include "support/doubles.h"
