@@ -20,7 +20,7 @@ constexpr const char* kCloseCaption = " chiudi";
 }  // namespace
 
 Archive::Archive(ContestSession& session, FileSystem& files, Manager& manager, Web& web,
-                 ContestStore& store, Screen& screen, CheckForm& form, CheckState& state)
+                 StoreReading& store, Screen& screen, CheckForm& form, CheckState& state)
     : session_(session),
       files_(files),
       manager_(manager),
@@ -162,13 +162,7 @@ void Archive::ric_in_quel_locatore_Click() {
   if (!item) {
     return;
   }
-  const auto library = store_.Lines(StoreFile::kLibreriaTotale, state_.categoria);
-  if (!library) {
-    manager_.Show(
-        {.lines = {" il file 'libreria_totale.tot' di categoria è assente. Attenzione "_a}});
-    return;
-  }
-  for (std::string& row : FindInSquare(*library, item->call, item->locator)) {
+  for (std::string& row : FindInSquare(store_.TotalLibrary(), item->call, item->locator)) {
     desk_.lista_call_unici.items.Add(std::move(row));
   }
 }

@@ -9,7 +9,7 @@
 #include "check/check_form.h"
 #include "check/check_state.h"
 #include "check/notices_form.h"
-#include "model/contest_store.h"
+#include "check/store_reading.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "platform/web.h"
@@ -22,7 +22,7 @@ namespace velmar {
 class Archive {
  public:
   Archive(ContestSession& session, FileSystem& files, Manager& manager, Web& web,
-          ContestStore& store, Screen& screen, CheckForm& form, CheckState& state);
+          StoreReading& store, Screen& screen, CheckForm& form, CheckState& state);
 
   ArchiveForm& form() { return browser_; }
   NoticesForm& notices() { return notices_; }
@@ -75,7 +75,7 @@ class Archive {
   FileSystem& files_;
   Manager& manager_;
   Web& web_;
-  ContestStore& store_;
+  StoreReading& store_;
   Screen& screen_;
   CheckForm& desk_;
   CheckState& state_;

@@ -10,8 +10,15 @@
 #include "check/check_trap.h"
 #include "check/error_report.h"
 #include "check/locator_check.h"
+#include "check/log_removal.h"
+#include "check/log_views.h"
+#include "check/not_in_log_check.h"
 #include "check/option_menu.h"
 #include "check/queue_panel.h"
+#include "check/score_update.h"
+#include "check/store_reading.h"
+#include "check/time_check.h"
+#include "check/unique_check.h"
 #include "model/contest_store.h"
 #include "platform/ports.h"
 #include "session/contest_session.h"
@@ -40,14 +47,15 @@ class CheckDesk {
   /// Leaves the desk at once; a check that runs is broken off.
   void exit_Click();
 
-  /// Leaves out the unique calls and what is not in a log.
-  void nasondi_Click();
-
  private:
   void On(Control& control, int step, std::function<void()> event);
   void ReadParticipants();
   void JoinQueue();
   void JoinChecks();
+  void JoinTimes();
+  void JoinUnique();
+  void JoinViews();
+  void JoinScore();
   void JoinArchive();
   void Leave();
 
@@ -60,11 +68,18 @@ class CheckDesk {
   CheckState state_;
   CheckSteps steps_;
   OptionMenu options_;
+  StoreReading reading_;
   QueuePanel queue_;
   Archive archive_;
   ErrorReport report_;
+  LogViews views_;
   LocatorCheck locators_;
+  TimeCheck times_;
+  NotInLogCheck not_in_log_;
+  UniqueCheck unique_;
   CheckStart start_;
+  ScoreUpdate score_;
+  LogRemoval removal_;
 };
 
 }  // namespace velmar

@@ -33,6 +33,14 @@ CheckForm::CheckForm() {
   conf_err_RST.caption = kReportError;
   vis_err.tip = "Visualizza lista errori già in report"_a;
   uscita2.visible = false;
+  Cancella_log.visible = false;
+  Frame_unici.caption = kUniqueTitle;
+  Frame_log.visible = false;
+  Label_info_errati.visible = false;
+  Unici_in_attesa_conf.visible = false;
+  Avviso.visible = false;
+  Attendi_calcolo.visible = false;
+  log_callda_cercare.enabled = false;
   Frame_unici.visible = false;
   Frame_Controllo_locatori.visible = false;
   Frame_solo_classifica.visible = false;
@@ -88,10 +96,11 @@ void CheckForm::HideErrors() {
 
 void CheckForm::ClearLists() {
   for (List* list : {&Lista_dubbi, &Lista_locatori, &Lista_err_orario, &Call_unici, &Lista_simili,
-                     &lista_call_unici, &List_errori}) {
+                     &lista_notlog, &List2_unici, &lista_call_unici, &List_errori}) {
     list->Fill({});
   }
   N_dubbi.caption.clear();
+  num_unici.caption.clear();
   HideErrors();
 }
 

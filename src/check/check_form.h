@@ -16,10 +16,20 @@ struct CheckForm : CheckOptions {
   // The menus behind the options.
   Menu& load_cla_banda = AddMenu("load_cla_banda", "Carica classifica di banda");
   Menu& Vis_archivio = AddMenu("Vis_archivio", "Archivio");
+  Menu& punteggio = AddMenu("punteggio", "Punteggio");
   Menu& elimina_L = AddMenu("elimina_L", "&Elimina un log");
+  Menu& riordina = AddMenu("riordina", "riordina", &punteggio);
+  Menu& Azzera_punteggio = AddMenu("Azzera_punteggio", "Reset Punteggio al declared", &punteggio);
+  Menu& Visualizza_pulsante_aggiorna = AddMenu(
+      "Visualizza_pulsante_aggiorna", "Visualizza pulsante Aggiorna classifica", &punteggio);
+  Menu& Reset_cla_2IT = AddMenu("Reset_cla_2IT", "Riempi classifica 2IT", &punteggio);
+  Menu& Svuota = AddMenu("Svuota", "Svuota Cla", &punteggio);
+  Menu& stampa_classifica_di_banda =
+      AddMenu("stampa_classifica_di_banda", "Stampa classifica di banda", &punteggio);
   Menu& torna_menu = AddMenu("torna_menu", "Exit - torna menu ");
   Menu& exit = AddMenu("exit", "uscita ( senza salvare dati)");
-  Menu& uscita2 = AddMenu("uscita2", "&Esci");  ///< of the wide view
+  Menu& Cancella_log = AddMenu("Cancella_log", "&Cancella un Log");  ///< of the wide view
+  Menu& uscita2 = AddMenu("uscita2", "&Esci");                       ///< of the wide view
 
   // What to load.
   Frame& Frame1 = AddLabel("Frame1", "Carica una classifica");
@@ -53,6 +63,7 @@ struct CheckForm : CheckOptions {
   Label& qrb_finale = In(Frame_esame, AddLabel("qrb_finale"));  ///< points that are left
   Label& evidenzia = In(Frame_esame, AddLabel("evidenzia"));
   std::array<Label*, 6> passi = AddSteps();
+  Button& control_time = In(Frame_esame, AddButton("control_time", "Cnt time"));
   Button& unici = In(Frame_esame, AddButton("unici", "verifica UNICI"));
   Button& aggiorna_punt_class =
       In(Frame_esame, AddButton("aggiorna_punt_class", "Aggiorna classifica"));
@@ -92,20 +103,75 @@ struct CheckForm : CheckOptions {
 
   // Differing times.
   Frame& Frame_Log_errori_tempo = AddLabel("Frame_Log_errori_tempo", "    Controllo orari    ");
+  Label& Label25 = In(Frame_Log_errori_tempo, AddLabel("Label25"));      ///< what the list is of
+  Label& messaggio = In(Frame_Log_errori_tempo, AddLabel("messaggio"));  ///< outcome
+  Label& Label11 = In(Frame_Log_errori_tempo, AddLabel("Label11"));      ///< titles of the list
   List& Lista_err_orario = In(Frame_Log_errori_tempo, AddList("Lista_err_orario"));
+  Label& kmerr = In(Frame_Log_errori_tempo, AddLabel("kmerr"));     ///< points of the QSO
+  TextField& Text3 = In(Frame_Log_errori_tempo, AddText("Text3"));  ///< QSOs whose reports agree
   Button& conf_err_time = In(Frame_Log_errori_tempo, AddButton("conf_err_time", ""));
   Button& conf_err_RST = In(Frame_Log_errori_tempo, AddButton("conf_err_RST", ""));
   Button& convalida_qso_time =
       In(Frame_Log_errori_tempo, AddButton("convalida_qso_time", "convalida il qso"));
+  Button& vis_log = In(Frame_Log_errori_tempo, AddButton("vis_log", "visualizza log"));
+  Button& cerca_qso_rst =
+      In(Frame_Log_errori_tempo, AddButton("cerca_qso_rst", "cerca qso in rst"));
 
-  // Unique calls.
-  Frame& Frame_unici = AddLabel("Frame_unici", "    Call unici    ");
+  // Unique calls, and behind them what is not in a log.
+  Frame& Frame_unici = AddLabel("Frame_unici");
+  Label& num_unici = In(Frame_unici, AddLabel("num_unici"));  ///< open items
+  Label& Unici_in_attesa_conf =
+      In(Frame_unici, AddLabel("Unici_in_attesa_conf", "Errori unici in attesa di conferma"));
+  Label& ric_notinlog = In(Frame_unici, AddLabel("ric_notinlog"));
+  Label& troppi_numeri = In(Frame_unici, AddLabel("troppi_numeri"));
+  Label& messaggio_unici = In(Frame_unici, AddLabel("messaggio_unici"));
+  Label& messaggio_locatore = In(Frame_unici, AddLabel("messaggio_locatore"));
+  Label& Label12 = In(Frame_unici, AddLabel("Label12"));
+  Label& nome_call = In(Frame_unici, AddLabel("nome_call"));
+  Label& pre_senze = In(Frame_unici, AddLabel("pre_senze"));
+  Label& Avviso = In(Frame_unici, AddLabel("Avviso", " Presenze"));
   List& Call_unici =
       In(Frame_unici, AddList("Call_unici", "Log         Call        Loc.   QRB  n."));
+  Button& error_call_unici = In(Frame_unici, AddButton("error_call_unici", "Error Call"));
+  Button& Errore_locatore = In(Frame_unici, AddButton("Errore_locatore", "Error locator"));
+  Button& marca_unico = In(Frame_unici, AddButton("marca_unico", "Call unico"));
+  Button& ok_call_unici = In(Frame_unici, AddButton("ok_call_unici", "NON è errore"_a));
   List& Lista_simili =
       In(Frame_unici, AddList("Lista_simili", "Log         Call        Loc.   QRB"));
+  List& lista_notlog = In(Frame_unici, AddList("lista_notlog"));
+  Button& NO_in_log = In(Frame_unici, AddButton("NO_in_log", "NOT in log"));
+  Button& no_errore = In(Frame_unici, AddButton("no_errore", "NO error"));
+  List& List2_unici = In(Frame_unici, AddList("List2_unici", "Loc.      Call        Log"));
+  Label& Prob_call_corretto = In(Frame_unici, AddLabel("Prob_call_corretto"));
+  Label& call_scorretto = In(Frame_unici, AddLabel("call_scorretto"));
+  Button& cerca_probabile =
+      In(Frame_unici, AddButton("cerca_probabile", "Probabile call corretto"));
+  Button& not_button = In(Frame_unici, AddButton("not", "not in log"));
+  Button& log_callda_cercare =
+      In(Frame_unici, AddButton("log_callda_cercare", "cerca  sul log di "));
+  Button& log_call = In(Frame_unici, AddButton("log_call", "Vis. Log"));
+  Button& vedi_log2 = In(Frame_unici, AddButton("vedi_log2", "visualizza log"));
+  Button& cerca_qso = In(Frame_unici, AddButton("cerca_qso", "cerca qso"));
   Button& Controlla_estero = In(Frame_unici, AddButton("Controlla_estero", "Cerca call estero"));
   Button& nasondi = In(Frame_unici, AddButton("nasondi", "SALTA"));
+  Label& Attendi_calcolo = AddLabel("Attendi_calcolo", "ATTENDI....");
+
+  // The log under examination beside another one.
+  Frame& Frame_log = AddLabel("Frame_log", "Log");
+  Label& Label16 = In(Frame_log, AddLabel("Label16"));
+  List& List_log_call_esame = In(Frame_log, AddList("List_log_call_esame"));
+  Label& Label17 = In(Frame_log, AddLabel("Label17"));
+  List& List_log_corrispondente = In(Frame_log, AddList("List_log_corrispondente"));
+  Label& Label_simile = In(Frame_log, AddLabel("Label_simile"));
+  Label& Label_info_errati =
+      In(Frame_log, AddLabel("Label_info_errati",
+                             "(0)= OK o anagramma        (1) UN carattere errato nel call         "
+                             "(2) DUE o più caratteri errati nel call"_a));
+  Button& cerca_qso2 =
+      In(Frame_log, AddButton("cerca_qso2", "Clicca per vedere eventuale errore nel call"));
+  Button& cerca_primo_qso =
+      In(Frame_log, AddButton("cerca_primo_qso", "cerca solo qso con il corrispondente"));
+  Button& chiudi = In(Frame_log, AddButton("chiudi", "chiudi"));
 
   // Where to look up the call or the locator of the item that is selected.
   Frame& Frame_ricerche = AddLabel("Frame_ricerche", "Ricerche");
@@ -140,6 +206,7 @@ struct CheckForm : CheckOptions {
   void ClearLists();
 
   static constexpr std::string_view kQueueTitle = "Classifica generale di banda";
+  static constexpr std::string_view kUniqueTitle = "    Call unici    ";
   static constexpr std::string_view kTimeError = " conf. errore Time a : ";
   static constexpr std::string_view kReportError = " Conf. errore RST a : ";
 

@@ -52,10 +52,13 @@ void CheckStart::listacall_banda_DblClick() {
   report_.BeginScore(text);
   form_.conf_err_time.caption = Join(CheckForm::kTimeError, state_.call_in_esame);
   form_.conf_err_RST.caption = Join(CheckForm::kReportError, state_.call_in_esame);
-  if (!SplitStore()) {
+  if (!store_.Split(StoreReading::kForLocators, [this](std::size_t done) { ShowProgress(done); })) {
     return;
   }
   locators_.Build();
+  if (form_.no_control_time.checked) {
+    times_.Build();
+  }
   ShowProgress(kStoreSteps);
   state_.progress.controllo_in_corso = true;
   form_.prossimo.visible = false;  // it would drop this check
@@ -86,10 +89,15 @@ void CheckStart::Prepare() {
   steps_.Reset();
   state_.unici_saltati = false;
   state_.errore_in_arrivo = false;
+  state_.errore_forzato = false;
+  state_.unique_checked = false;
+  state_.report_mode = false;
+  state_.time_errors = 0;
   form_.sigla_call.value.clear();
   form_.conf_err_time.caption = CheckForm::kTimeError;
   form_.conf_err_RST.caption = CheckForm::kReportError;
   form_.Frame_unici.visible = false;
+  form_.Frame_log.visible = false;
   form_.Frame_Controllo_locatori.visible = true;
   archive_.LoadBook();
 }
@@ -125,29 +133,6 @@ void CheckStart::EnableDecisions(bool enabled) {
         &form_.errore_call, &form_.convalida_qso_time, &form_.vis_err, &form_.not_inlog}) {
     button->enabled = enabled;
   }
-}
-
-bool CheckStart::SplitStore() {
-  auto library =
-      ReadIfThere(files_, session_.workspace.store_file(StoreFile::kLibreria, state_.categoria));
-  if (!library) {
-    manager_.Show({.lines = {" Il file della libreria di categoria è assente. Attenzione "_a}});
-    return false;
-  }
-  // They point into the older text, and must not outlive it where the disk fails below.
-  state_.qsos = {};
-  state_.library = std::move(*library);
-  const auto write = [this](std::string_view name, std::string_view text) {
-    files_.WriteAll(session_.workspace.scratch(name), text);
-  };
-  ShowProgress(1);
-  write("libreria.tmp", state_.library);
-  state_.qsos = SplitLibrary(state_.library, state_.call_in_esame);
-  ShowProgress(2);
-  write(Join(state_.categoria, "log_da_verificare.tmp"), RowsText(state_.qsos.log));
-  write(Join(state_.categoria, "Libreria_temp.tmp"), RowsText(state_.qsos.others));
-  ShowProgress(3);
-  return true;
 }
 
 void CheckStart::ShowProgress(std::size_t done) {

@@ -10,6 +10,8 @@
 #include "check/error_report.h"
 #include "check/locator_check.h"
 #include "check/queue_panel.h"
+#include "check/store_reading.h"
+#include "check/time_check.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "session/contest_session.h"
@@ -21,15 +23,17 @@ namespace velmar {
 class CheckStart {
  public:
   CheckStart(ContestSession& session, FileSystem& files, Manager& manager, QueuePanel& queue,
-             Archive& archive, ErrorReport& report, LocatorCheck& locators, CheckSteps& steps,
-             CheckForm& form, CheckState& state)
+             Archive& archive, ErrorReport& report, StoreReading& store, LocatorCheck& locators,
+             TimeCheck& times, CheckSteps& steps, CheckForm& form, CheckState& state)
       : session_(session),
         files_(files),
         manager_(manager),
         queue_(queue),
         archive_(archive),
         report_(report),
+        store_(store),
         locators_(locators),
+        times_(times),
         steps_(steps),
         form_(form),
         state_(state) {}
@@ -47,7 +51,6 @@ class CheckStart {
   void TakeRow(std::size_t row);
   bool AskForRecheck();
   void EnableDecisions(bool enabled);
-  bool SplitStore();
   void ShowProgress(std::size_t done);
 
   ContestSession& session_;
@@ -56,7 +59,9 @@ class CheckStart {
   QueuePanel& queue_;
   Archive& archive_;
   ErrorReport& report_;
+  StoreReading& store_;
   LocatorCheck& locators_;
+  TimeCheck& times_;
   CheckSteps& steps_;
   CheckForm& form_;
   CheckState& state_;

@@ -46,7 +46,14 @@ struct CheckState {
   bool errore_forzato_call = false;  ///< the log's own call, to be taken as it stands
   bool believed_wrong = false;
 
-  bool unici_saltati = false;  ///< the check of unique calls was left out
+  // The later checks of the call.
+  std::size_t time_errors = 0;  ///< QSOs that the time check listed
+  bool report_mode = false;     ///< the list of times is one of reports
+  std::string call_forzato;     ///< to be taken for wrong
+  bool errore_forzato = false;  ///< the list of unique calls holds the forced one
+  bool judged_wrong = false;    ///< a likely correct call was found for the selected one
+  bool unique_checked = false;  ///< the result may be written
+  bool unici_saltati = false;   ///< the check of unique calls was left out
 };
 
 }  // namespace velmar

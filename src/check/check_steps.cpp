@@ -1,5 +1,7 @@
 #include "check/check_steps.h"
 
+#include "model/text.h"
+
 namespace velmar {
 
 void CheckSteps::Reset() {
@@ -10,24 +12,54 @@ void CheckSteps::Reset() {
   Show(CheckStep::kNone);
 }
 
+bool CheckSteps::TimesOpen() const {
+  const auto& rows = form_.Lista_err_orario.items.rows();
+  return !rows.empty() && !Holds(rows.front(), kTimeOnAirMark);
+}
+
 void CheckSteps::Advance() {
   if (!form_.Lista_dubbi.items.rows().empty()) {
     Show(CheckStep::kLocators);
-  } else if (!form_.Lista_err_orario.items.rows().empty()) {
+  } else if (TimesOpen()) {
     Show(CheckStep::kTimes);
   } else {
-    form_.unici.enabled = true;
-    form_.unici.colour = colour::kGreen;
+    Offer(form_.unici);
     Show(CheckStep::kUnique);
   }
 }
 
-void CheckSteps::SkipToUpdate() {
+void CheckSteps::OpenUnique() {
   form_.unici.colour.reset();
   form_.aggiorna_punt_class.visible = true;
-  form_.aggiorna_punt_class.enabled = true;
-  form_.aggiorna_punt_class.colour = colour::kGreen;
+  Show(CheckStep::kUnique);
+}
+
+void CheckSteps::OpenNotInLog() {
+  Show(CheckStep::kNotInLog);
+}
+
+void CheckSteps::OpenUpdate() {
+  form_.unici.colour.reset();
+  form_.aggiorna_punt_class.visible = true;
+  Offer(form_.aggiorna_punt_class);
   Show(CheckStep::kUpdate);
+}
+
+void CheckSteps::OpenSave() {
+  form_.aggiorna_punt_class.colour.reset();
+  form_.aggiorna_punt_class.enabled = false;
+  Offer(form_.ordina);
+  Show(CheckStep::kUpdate);
+}
+
+void CheckSteps::Finish() {
+  Reset();
+  Show(CheckStep::kDone);
+}
+
+void CheckSteps::Offer(Button& button) {
+  button.enabled = true;
+  button.colour = colour::kGreen;
 }
 
 void CheckSteps::Show(CheckStep open) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "check/check_form.h"
 #include "check/check_state.h"
 
@@ -20,13 +22,32 @@ class CheckSteps {
   /// Goes to the first check that has open items; with none, the unique calls can be looked for.
   void Advance();
 
-  /// Leaves out the unique calls and what is not in a log: the result can be written.
-  void SkipToUpdate();
+  /// The unique calls are looked at.
+  void OpenUnique();
+
+  /// What is not in a log is looked at.
+  void OpenNotInLog();
+
+  /// The result can be written.
+  void OpenUpdate();
+
+  /// The result stands and is to be saved.
+  void OpenSave();
+
+  /// The check of the call is over.
+  void Finish();
+
+  /// Whether differing times wait for a decision.
+  bool TimesOpen() const;
 
  private:
+  static void Offer(Button& button);
   void Show(CheckStep open);
 
   CheckForm& form_;
 };
+
+/// What marks the row that tells the time on the air, behind the last QSO of the list of times.
+inline constexpr std::string_view kTimeOnAirMark = "intercorso";
 
 }  // namespace velmar

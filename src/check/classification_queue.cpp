@@ -45,16 +45,25 @@ bool ClassificationQueue::Read(std::string_view text) {
   return !empty();
 }
 
-std::string ClassificationQueue::RowWithPosition(std::size_t row) const {
-  const std::string& text = Row(row);
-  return Join(Pad(text, std::max(text.size(), kWholeRow)), " ", row);
+std::string ClassificationQueue::FileText(std::size_t width) const {
+  std::string text;
+  for (std::size_t row = 0; row < size(); ++row) {
+    // The header is longer than the rows.
+    AddLine(text, row == 0 ? std::string_view(Row(row)) : Left(Row(row), width));
+  }
+  return text;
 }
 
-std::vector<std::string> ClassificationQueue::Shown(std::string_view separator) const {
+std::string ClassificationQueue::RowWithPosition(std::size_t row) const {
+  const std::string& text = Row(row);
+  return Join(Pad(text, std::max(text.size(), kWholeRow)), separator_, row);
+}
+
+std::vector<std::string> ClassificationQueue::Shown() const {
   std::vector<std::string> shown;
   shown.reserve(size());
   for (std::size_t row = 0; row < size(); ++row) {
-    shown.push_back(row == 0 ? Row(row) : Join(Row(row), separator, row));
+    shown.push_back(row == 0 ? Row(row) : Join(Row(row), separator_, row));
   }
   return shown;
 }

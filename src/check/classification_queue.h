@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "model/bounded_table.h"
@@ -25,12 +26,20 @@ class ClassificationQueue {
   /// A row as the file has it.
   const std::string& Row(std::size_t row) const { return rows_[row + 1]; }
 
+  /// Another text of a row, as the checks have made it.
+  void SetRow(std::size_t row, std::string text) { rows_.Replace(row + 1, std::move(text)); }
+
+  /// The file: all rows, each cut to `width` characters.
+  std::string FileText(std::size_t width) const;
+
   /// A row with its position behind it. What lacks to its columns is blank.
   std::string RowWithPosition(std::size_t row) const;
 
-  /// All rows as the list of the queue shows them: each, its header apart, with its position behind
-  /// `separator`.
-  std::vector<std::string> Shown(std::string_view separator) const;
+  /// All rows as the list of the queue shows them: each, its header apart, with its position.
+  std::vector<std::string> Shown() const;
+
+  /// What stands between a row and its position; " " at first.
+  void SeparatePositions(std::string separator) { separator_ = std::move(separator); }
 
   /// Whether a row is a header, wherever it stands.
   bool LooksLikeHeader(std::size_t row) const;
@@ -47,6 +56,7 @@ class ClassificationQueue {
  private:
   using Rows = BoundedTable<std::string, 370'000>;
   Rows rows_;
+  std::string separator_ = " ";
 };
 
 /// Whether a row of the classification waits for its check. A row that is too short to tell does

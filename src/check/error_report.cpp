@@ -62,18 +62,41 @@ bool ErrorReport::AlreadyListed(const std::string& call) {
 
 void ErrorReport::Penalise(ErrorEntry entry) {
   entry.index = state_.next_index;
+  AppendLine(ErrorListLine(entry));
+  Lower(entry.call, entry.points);
+}
+
+void ErrorReport::PenaliseNotInLog(const std::string& call, const std::string& points) {
+  AppendLine(NotInLogLine(state_.next_index, call, points));
+  Lower(call, points);
+}
+
+void ErrorReport::NoteUnique(const std::string& call, const std::string& ordinal) {
+  AppendLine(UniqueCallLine(state_.next_index, call, ordinal));
+}
+
+void ErrorReport::AppendTotals() {
+  files_.Append(Path(), ErrorListTotals(state_.qrb_ufficiale, state_.qrb_finale));
+}
+
+/// Writes the line of a decision; an error of the disk leaves the index as it was.
+void ErrorReport::AppendLine(const std::string& line) {
   const std::string list = files_.ReadAll(Path());
   // A list that was cut in the middle of its last line keeps that line to itself.
   const bool open_line = !list.empty() && list.back() != '\n';
-  files_.Append(Path(), Join(open_line ? kLineEnd : "", ErrorListLine(entry), kLineEnd));
+  files_.Append(Path(), Join(open_line ? kLineEnd : "", line, kLineEnd));
   ++state_.next_index;
-  state_.err_qrb += Val(entry.points);
+}
+
+/// Lowers the running score by what a decision costs.
+void ErrorReport::Lower(const std::string& call, const std::string& points) {
+  state_.err_qrb += Val(points);
   ++state_.err_count;
   state_.qrb_finale = state_.qrb_ufficiale - state_.err_qrb;
   std::string row =
       CheckedRow(form_.evidenzia.caption,
                  {.errors = state_.err_count, .lost = state_.err_qrb, .final = state_.qrb_finale});
-  if (Trim(entry.call) == state_.dx_call) {
+  if (Trim(call) == state_.dx_call) {
     row = WithDxMark(row, '*');
   }
   form_.evidenzia.caption = std::move(row);

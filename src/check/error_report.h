@@ -34,13 +34,22 @@ class ErrorReport {
   /// The running score at the start of a check, of a row of the queue.
   void BeginScore(const std::string& row);
 
-  /// Whether a call, of 12 characters, is on the list already, which is then told: the decision on
+  /// Whether a call is on the list already, which is then told: the decision on
   /// it is not to be taken.
   bool AlreadyListed(const std::string& call);
 
   /// Writes a decision that costs points: the line, then the running score. The entry gets its
   /// index here. An error of the disk leaves the score as it was.
   void Penalise(ErrorEntry entry);
+
+  /// The same for a QSO that the other station's log lacks.
+  void PenaliseNotInLog(const std::string& call, const std::string& points);
+
+  /// Notes a unique call, which costs nothing.
+  void NoteUnique(const std::string& call, const std::string& ordinal);
+
+  /// Closes the list with its totals.
+  void AppendTotals();
 
   /// Shows the list, or hides it again.
   void vis_err_Click();
@@ -49,6 +58,8 @@ class ErrorReport {
 
  private:
   std::string Path() const;
+  void AppendLine(const std::string& line);
+  void Lower(const std::string& call, const std::string& points);
   void ShowScore();
 
   ContestSession& session_;

@@ -30,6 +30,12 @@ Box BrokenLocatorOfDoubt(std::string_view locator) {
       .title = " LOCATORE ERRATO"};
 }
 
+Box BrokenLocatorOfUnique(std::string_view locator) {
+  return {.lines = {Join(" il locatore ", locator, " è SBAGLIATO "_a), kZeroHint,
+                    " IL PUNTEGGIO E' GIA' STATO DECURTATO IN ''INSERIMENTO LOG''",
+                    " considera il qso valido per non togliere 2 volte il lo stesso punteggio"}};
+}
+
 Box MissingParticipants() {
   return {.lines = {" Il file dei partecipanti è assente. Attenzione "_a}};
 }

@@ -14,6 +14,9 @@ Box BrokenLocatorOnReading(std::string_view locator, std::size_t qso, std::strin
 /// The same of the doubt that is selected.
 Box BrokenLocatorOfDoubt(std::string_view locator);
 
+/// The same of the unique call that is selected.
+Box BrokenLocatorOfUnique(std::string_view locator);
+
 /// That the file of the participants is not there.
 Box MissingParticipants();
 

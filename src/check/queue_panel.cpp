@@ -17,11 +17,11 @@ std::string_view NameOf(std::string_view path) {
   return slash == std::string_view::npos ? path : path.substr(slash + 1);
 }
 
-Box LoadFirst() {
+}  // namespace
+
+Box LoadClassificationFirst() {
   return {.lines = {" è necessario caricare una classifica"_a}};
 }
-
-}  // namespace
 
 void QueuePanel::ScanCategories() {
   const auto text = ReadIfThere(files_, session_.workspace.classification(session_.category_month));
@@ -58,7 +58,7 @@ bool QueuePanel::Load(const std::string& path, const std::string& name) {
     manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
     return false;
   }
-  form_.listacall_banda.Fill(state_.queue.Shown(" "));
+  form_.listacall_banda.Fill(state_.queue.Shown());
   form_.bandaesame.caption = name;
   form_.n_cla.caption = std::to_string(state_.queue.size() - 1);
   form_.prossimo.visible = true;
@@ -95,6 +95,22 @@ void QueuePanel::primo_carico_Click() {
   }
 }
 
+void QueuePanel::Reload(std::string separator) {
+  if (!state_.queue.Read(files_.ReadAll(state_.classification_path))) {
+    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+  }
+  state_.queue.SeparatePositions(std::move(separator));
+  form_.listacall_banda.Fill(state_.queue.Shown());
+  Choose(state_.queue.FirstUnchecked().value_or(0));
+}
+
+void QueuePanel::SetRow(std::size_t row, const std::string& text) {
+  state_.queue.SetRow(row, text);
+  const int chosen = form_.listacall_banda.selection;
+  form_.listacall_banda.Fill(state_.queue.Shown());
+  form_.listacall_banda.selection = chosen;
+}
+
 void QueuePanel::Choose(std::size_t row) {
   form_.listacall_banda.selection = static_cast<int>(row);
   form_.listacall_banda.top = static_cast<int>(row > kRowsAboveChosen ? row - kRowsAboveChosen : 0);
@@ -102,7 +118,7 @@ void QueuePanel::Choose(std::size_t row) {
 
 bool QueuePanel::ChooseFirstUnchecked() {
   if (state_.queue.empty()) {
-    manager_.Show(LoadFirst());
+    manager_.Show(LoadClassificationFirst());
     return false;
   }
   const auto row = state_.queue.FirstUnchecked();
@@ -137,15 +153,12 @@ void QueuePanel::vai_a_un_call_Click() {
 
 void QueuePanel::Visualizza_solo_classifica_Click() {
   if (state_.queue.empty()) {
-    manager_.Show(LoadFirst());
+    manager_.Show(LoadClassificationFirst());
     return;
   }
-  ClassificationQueue rows;
-  if (!rows.Read(files_.ReadAll(state_.classification_path))) {
-    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+  if (!ShowWideRows()) {
     return;
   }
-  form_.visualizza_classifica.Fill(rows.Shown(" ("));
   const std::string_view name = form_.bandaesame.caption;
   form_.Text1.value = name.substr(0, name.rfind('.'));
   LeaveWideView();
@@ -157,11 +170,24 @@ void QueuePanel::Visualizza_solo_classifica_Click() {
   }
   form_.Frame_solo_classifica.visible = true;
   form_.uscita2.visible = true;
+  form_.Cancella_log.visible = true;
+}
+
+bool QueuePanel::ShowWideRows() {
+  ClassificationQueue rows;
+  if (!rows.Read(files_.ReadAll(state_.classification_path))) {
+    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    return false;
+  }
+  rows.SeparatePositions(" (");
+  form_.visualizza_classifica.Fill(rows.Shown());
+  return true;
 }
 
 void QueuePanel::LeaveWideView() {
   form_.Frame_solo_classifica.visible = false;
   form_.uscita2.visible = false;
+  form_.Cancella_log.visible = false;
   for (Control* control : hidden_) {
     control->visible = true;
   }

@@ -45,6 +45,15 @@ class QueuePanel {
   void Visualizza_solo_classifica_Click();
   void LeaveWideView();
 
+  /// Reads the classification again into the wide view; false where it is none.
+  bool ShowWideRows();
+
+  /// Reads the file again after it was written, with its positions behind `separator`.
+  void Reload(std::string separator);
+
+  /// Another text of a row of the queue, counted from 0.
+  void SetRow(std::size_t row, const std::string& text);
+
   /// Forgets the classification and the check that may run, but not how far the desk is.
   void Clear();
 
@@ -60,5 +69,8 @@ class QueuePanel {
   CheckState& state_;
   std::vector<Control*> hidden_;  ///< by the wide view
 };
+
+/// That there is nothing to work on yet.
+Box LoadClassificationFirst();
 
 }  // namespace velmar

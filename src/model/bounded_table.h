@@ -27,6 +27,12 @@ class BoundedTable {
     return elements_[number - 1];
   }
 
+  /// Another element in place of one; its number has to be there, as for reading.
+  void Replace(std::size_t number, Element element) {
+    static_cast<void>((*this)[number]);
+    elements_[number - 1] = std::move(element);
+  }
+
   std::size_t size() const { return elements_.size(); }
   bool empty() const { return elements_.empty(); }
   void Clear() { elements_.clear(); }

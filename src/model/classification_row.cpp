@@ -43,6 +43,13 @@ std::string CheckedRow(std::string_view row, const CheckTotals& totals) {
               old.Position());
 }
 
+std::string WithoutResult(std::string_view row) {
+  constexpr Column kBlank = classification_row::kTakenBack;
+  std::string blanked(row);
+  blanked.replace(kBlank.start - 1, kBlank.width, std::string(kBlank.width, ' '));
+  return blanked;
+}
+
 std::string WithDxMark(std::string_view row, char mark) {
   std::string marked(row);
   marked.at(classification_row::kDxMark.start - 1) = mark;

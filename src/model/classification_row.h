@@ -60,6 +60,9 @@ inline constexpr Column kBeforeCheck{1, 91};
 /// eight stood there.
 inline constexpr Column kDxMark{65, 1};
 
+/// What is blanked where a check is taken back.
+inline constexpr Column kTakenBack{90, 15};
+
 /// Ten blanks here mean that the desk has yet to check the log.
 inline constexpr Column kToBeChecked{92, 10};
 
@@ -128,6 +131,9 @@ struct CheckTotals {
 /// A row with the result of a check in place of an older one. It keeps what stands ahead of the
 /// result, its operator mark and its position. A row that declares no QSO raises error 11.
 std::string CheckedRow(std::string_view row, const CheckTotals& totals);
+
+/// A row as if it had never been checked.
+std::string WithoutResult(std::string_view row);
 
 /// A row with a character at the mark of the DX QSO.
 std::string WithDxMark(std::string_view row, char mark);

@@ -14,6 +14,20 @@ namespace {
 /// What the head's line about the log begins with. No decision does: its index stands there.
 constexpr std::string_view kLogLine = " Call: ";
 
+std::string IndexAndCall(int index, std::string_view call) {
+  return Join(" ", Pad(Str(index), error_row::kIndex.width), Pad(call, error_row::kCall.width));
+}
+
+/// A line up to the points.
+std::string LineStart(const ErrorEntry& entry) {
+  constexpr std::size_t kDigits = 3;
+  std::string ordinal(Trim(entry.ordinal));
+  ordinal.insert(0, kDigits - std::min(kDigits, ordinal.size()), '0');
+  return Join(IndexAndCall(entry.index, entry.call), Pad(ordinal, error_row::kQso.width),
+              Pad(entry.tag, error_row::kTag.width), Pad(entry.wrong, error_row::kWrong.width),
+              Pad(entry.right, error_row::kRight.width), "-");
+}
+
 }  // namespace
 
 std::string ErrorListHeadText(const ErrorListHead& head) {
@@ -47,24 +61,44 @@ std::string ErrorListHeadOf(std::string_view list) {
 }
 
 std::string ErrorListLine(const ErrorEntry& entry) {
-  constexpr std::size_t kDigits = 3;
-  std::string ordinal(Trim(entry.ordinal));
-  ordinal.insert(0, kDigits - std::min(kDigits, ordinal.size()), '0');
-  return Join(" ", Pad(Str(entry.index), error_row::kIndex.width),
-              Pad(entry.call, error_row::kCall.width), Pad(ordinal, error_row::kQso.width),
-              Pad(entry.tag, error_row::kTag.width), Pad(entry.wrong, error_row::kWrong.width),
-              Pad(entry.right, error_row::kRight.width), "-",
-              Pad(entry.points, error_row::kPoints.width));
+  return Join(LineStart(entry), Pad(entry.points, error_row::kPoints.width));
+}
+
+std::string UniqueCallLine(int index, std::string_view call, std::string_view ordinal) {
+  return LineStart({.index = index,
+                    .call = std::string(call),
+                    .ordinal = std::string(ordinal),
+                    .tag = error_tag::kUnique,
+                    .wrong = std::string(call)});
+}
+
+std::string NotInLogLine(int index, std::string_view call, std::string_view points) {
+  return Join(IndexAndCall(index, call), "       NOT in LOG                          ", points);
+}
+
+std::string ErrorListTotals(double official, double final) {
+  constexpr std::size_t kIndent = 44;
+  constexpr std::size_t kRule = 33;
+  constexpr std::size_t kAheadOfSign = 66;
+  const std::string rule = Join(std::string(kIndent, ' '), std::string(kRule, '-'), kLineEnd);
+  const auto sum = [](std::string_view text, double points) {
+    return PrintLine().Text(text).Zone().Number(static_cast<long long>(points)).End();
+  };
+  return Join(rule, sum(Join(std::string(kAheadOfSign, ' '), "-"), official - final),
+              sum("                                            Punti qrb validi       ", official),
+              rule,
+              sum("                                            FINAL SCORE            ", final));
 }
 
 bool ErrorListHolds(std::string_view list, std::string_view call) {
-  constexpr Column kTagStart{error_row::kTag.start, error_tag::kUnique.size()};
+  constexpr std::string_view kUnique = RTrim(error_tag::kUnique);
+  constexpr Column kTagStart{error_row::kTag.start, kUnique.size()};
   LineReader reader(list);
   for (std::string_view line; reader.Next(line);) {
     // The head has the log's own call in the same columns. A station that worked itself is not on
     // the list for that.
-    if (!line.starts_with(kLogLine) && Cut(line, error_row::kCall) == call &&
-        Cut(line, kTagStart) != error_tag::kUnique) {
+    if (!line.starts_with(kLogLine) && RTrim(Cut(line, error_row::kCall)) == RTrim(call) &&
+        Cut(line, kTagStart) != kUnique) {
       return true;
     }
   }

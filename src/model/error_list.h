@@ -50,7 +50,9 @@ namespace error_tag {
 inline constexpr std::string_view kCall = "errore call       ";
 inline constexpr std::string_view kLocator = "errore locator    ";
 inline constexpr std::string_view kNotInLog = "NOT IN LOG        ";
-inline constexpr std::string_view kUnique = "call   unico";  ///< as far as the test looks
+inline constexpr std::string_view kTime = "errore time       ";
+inline constexpr std::string_view kReport = "errore num ric.   ";
+inline constexpr std::string_view kUnique = "call   unico      ";
 }  // namespace error_tag
 
 /// One decision. Texts are cut or padded to their columns.
@@ -60,15 +62,24 @@ struct ErrorEntry {
   std::string ordinal;  ///< of the QSO
   std::string_view tag;
   std::string wrong;
-  std::string right;
-  std::string points;
+  std::string right{};
+  std::string points{};
 };
 
 /// The line of a decision, without its line end.
 std::string ErrorListLine(const ErrorEntry& entry);
 
-/// Whether the list holds a decision on a call of 12 characters. A call that was noted as unique
-/// does not count.
+/// The line of a call that is noted as unique: it costs nothing.
+std::string UniqueCallLine(int index, std::string_view call, std::string_view ordinal);
+
+/// The line of a QSO that the other station's log lacks, in a form of its own.
+std::string NotInLogLine(int index, std::string_view call, std::string_view points);
+
+/// The lines that close the list, with their line ends: points before the check, and what is left.
+std::string ErrorListTotals(double official, double final);
+
+/// Whether the list holds a decision on a call, blanks behind it apart. A call that was noted as
+/// unique does not count.
 bool ErrorListHolds(std::string_view list, std::string_view call);
 
 }  // namespace velmar

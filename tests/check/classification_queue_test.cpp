@@ -86,11 +86,12 @@ TEST(ClassificationQueue, FindsACallByAnyPartOfIt) {
 
 TEST(ClassificationQueue, ShowsRowsWithTheirPositionBehind) {
   const std::string longer = Pad(WaitingRow("IZ9QBC"), 140) + "x";
-  const ClassificationQueue queue = QueueOf(Join(kHeader, "\nshort\n", longer));
-  EXPECT_EQ(queue.Shown(" "), (Names{std::string(kHeader), "short 1", Join(longer, " 2")}));
-  EXPECT_EQ(queue.Shown(" ("), (Names{std::string(kHeader), "short (1", Join(longer, " (2")}));
+  ClassificationQueue queue = QueueOf(Join(kHeader, "\nshort\n", longer));
+  EXPECT_EQ(queue.Shown(), (Names{std::string(kHeader), "short 1", Join(longer, " 2")}));
   EXPECT_EQ(queue.RowWithPosition(1), Join(Pad("short", 122), " 1"));
-  EXPECT_EQ(queue.RowWithPosition(2), Join(longer, " 2"));
+  queue.SeparatePositions("          (");
+  EXPECT_EQ(queue.Shown()[2], Join(longer, "          (2"));
+  EXPECT_EQ(queue.RowWithPosition(2), Join(longer, "          (2"));
 }
 
 TEST(ClassificationQueue, TellsRowsThatNoCheckCanStartFrom) {

@@ -1,0 +1,138 @@
+#include "check/not_in_log_check.h"
+
+#include "check/not_in_log_search.h"
+#include "model/columns.h"
+#include "model/text.h"
+#include "platform/ansi.h"
+#include "platform/error.h"
+
+namespace velmar {
+
+namespace {
+
+constexpr std::size_t kMostQsos = 1'000;
+constexpr Column kItemCall{1, 12};
+constexpr Column kItemPoints{13, 4};
+
+}  // namespace
+
+void NotInLogCheck::not_Click() {
+  if (state_.call_in_esame.empty()) {
+    return;
+  }
+  form_.Lista_simili.Fill({});
+  form_.lista_notlog.Fill({});
+  if (form_.NOT_IN_LOG.checked) {
+    form_.ric_notinlog.caption = "NOT in LOG ricerca in corso....";
+    Search();
+    form_.ric_notinlog.caption.clear();
+  }
+  if (form_.Lista_simili.items.rows().empty()) {
+    PassReports();
+  } else {
+    steps_.OpenNotInLog();
+  }
+}
+
+void NotInLogCheck::Search() {
+  form_.Frame_unici.caption = " NOT in LOG  ";
+  form_.no_errore.caption = "NO error";
+  if (state_.qsos.log.size() > kMostQsos) {
+    throw RunTimeError(ErrorNumber::kSubscript, "the QSOs of a log");
+  }
+  const auto participants = store_.Participants();
+  const auto rows = store_.TotalLibrary();
+  const std::vector<std::string_view> total(rows.begin(), rows.end());
+  const auto hits = FindNotInLog({.log = state_.qsos.log,
+                                  .others = state_.qsos.others,
+                                  .participants = participants,
+                                  .total_library = total,
+                                  .category = state_.categoria,
+                                  .call = state_.call_in_esame,
+                                  .locator = state_.locatore_in_esame},
+                                 form_.Check9.checked);
+  for (const NotInLogHit& hit : hits) {
+    form_.Lista_simili.items.Add(hit.item);
+    form_.lista_notlog.items.Add(hit.explanation);
+  }
+  form_.num_unici.caption = std::to_string(form_.Call_unici.items.rows().size() + hits.size());
+  if (!hits.empty()) {
+    form_.Lista_simili.selection = 0;
+    Lista_simili_Click();
+  }
+}
+
+void NotInLogCheck::Lista_simili_Click() {
+  // The list also shows similar calls, which stand without an explanation.
+  if (!form_.lista_notlog.items.rows().empty()) {
+    form_.lista_notlog.selection = form_.Lista_simili.selection;
+    EnableByItem();
+  }
+}
+
+void NotInLogCheck::EnableByItem() {
+  const std::string item = form_.Lista_simili.ChosenRow().value_or("");
+  form_.NO_in_log.colour.reset();
+  form_.no_errore.colour.reset();
+  if (Holds(item, "NOT in log")) {
+    form_.NO_in_log.colour = colour::kGreen;
+  } else if (Holds(item, "NO errore")) {
+    form_.no_errore.colour = colour::kGreen;
+  }
+}
+
+void NotInLogCheck::NO_in_log_Click() {
+  const auto item = form_.Lista_simili.ChosenRow();
+  if (!item || form_.lista_notlog.items.rows().empty()) {
+    manager_.Beep(2);
+    return;
+  }
+  const std::string call(Cut(*item, kItemCall));
+  if (report_.AlreadyListed(call)) {
+    return;
+  }
+  report_.PenaliseNotInLog(call, std::string(Cut(*item, kItemPoints)));
+  RemoveSelected();
+}
+
+void NotInLogCheck::no_errore_Click() {
+  if (form_.Lista_simili.ChosenRow() && !form_.lista_notlog.items.rows().empty()) {
+    RemoveSelected();
+  }
+}
+
+void NotInLogCheck::RemoveSelected() {
+  List& list = form_.Lista_simili;
+  const auto row = static_cast<std::size_t>(list.selection);
+  list.items.RemoveAt(row);
+  form_.lista_notlog.items.RemoveAt(row);
+  const auto left = static_cast<int>(list.items.rows().size());
+  form_.num_unici.caption = std::to_string(left);
+  if (left > 0) {
+    list.selection %= left;
+    Lista_simili_Click();
+    return;
+  }
+  list.selection = form_.lista_notlog.selection = -1;
+  PassReports();
+}
+
+/// The step of the reports. No progressive numbers are sent in this contest, so nothing is
+/// compared.
+void NotInLogCheck::PassReports() {
+  form_.Frame_log.visible = false;
+  form_.Frame_unici.visible = false;
+  form_.Frame_unici.caption = CheckForm::kUniqueTitle;
+  form_.Frame_Classifica_gene_banda.visible = true;
+  form_.Label25.caption = " Errori di RAPPORTO";
+  form_.messaggio.caption = state_.time_errors == 0
+                                ? " Non si trasmettono i progressivi nello VLM. Procedura saltata"
+                                : " i rapporti risultano corretti";
+  form_.Text3.value = std::to_string(0);
+  state_.report_mode = true;
+  if (form_.Lista_dubbi.items.rows().empty() && !steps_.TimesOpen() && state_.unique_checked) {
+    steps_.OpenUpdate();
+  }
+}
+
+}  // namespace velmar
