@@ -13,7 +13,6 @@ namespace velmar {
 
 namespace {
 
-constexpr Column kDeclaration{1, 18};  ///< call and locator of a participant
 constexpr const char* kOpenCaption = "Archivio";
 constexpr const char* kCloseCaption = " chiudi";
 
@@ -96,7 +95,8 @@ void Archive::Show(ResultRows rows) {
 }
 
 void Archive::SuggestFrom(const std::string& row, std::string_view introduction) {
-  desk_.Locatore_in_log_arrivato.caption = Join(introduction, Cut(row, kDeclaration));
+  desk_.Locatore_in_log_arrivato.caption =
+      Join(introduction, Cut(row, partecipante_row::kDeclaration));
   state_.declared_locator = Cut(row, partecipante_row::kLocator);
 }
 

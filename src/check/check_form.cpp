@@ -32,6 +32,7 @@ CheckForm::CheckForm() {
   conf_err_time.caption = kTimeError;
   conf_err_RST.caption = kReportError;
   vis_err.tip = "Visualizza lista errori già in report"_a;
+  NameLookUps("", "");
   uscita2.visible = false;
   Cancella_log.visible = false;
   Frame_unici.caption = kUniqueTitle;
@@ -65,16 +66,21 @@ std::array<Label*, 6> CheckForm::AddSteps() {
   return steps;
 }
 
+void CheckForm::NameLookUps(std::string_view call, std::string_view locator) {
+  constexpr std::size_t kSquare = 4;
+  internet.caption = Join("cerca ", call, " su QRZ");
+  SEARC_loc.caption = Join("Mappa ", locator);
+  ric_in_quel_locatore.caption = Join("cerca in ", Left(locator, kSquare));
+}
+
 void CheckForm::ClearEvidence() {
   for (Label* label : {&infoloc, &log_uguali, &log_diverso, &Locatore_in_log_arrivato}) {
     label->caption.clear();
   }
   err_loc_log.visible = false;
   LBL_doppioclick.visible = false;
-  vedi_locator.caption = "Visualizza in mappa il locatore : ";
-  internet.caption = "cerca su QRZ";
-  SEARC_loc.caption = "Mappa ";
-  ric_in_quel_locatore.caption = "cerca in ";
+  vedi_locator.caption = kMapOf;
+  NameLookUps("", "");
   conferma_errore.colour.reset();
   QSO_ok.colour.reset();
 }

@@ -96,7 +96,7 @@ struct CheckForm : CheckOptions {
   List& Lista_locatori =
       In(Frame_Controllo_locatori, AddList("Lista_locatori", "Log         Call        Loc."));
   Button& vedi_locator =
-      In(Frame_Controllo_locatori, AddButton("vedi_locator", "Visualizza in mappa il locatore : "));
+      In(Frame_Controllo_locatori, AddButton("vedi_locator", std::string(kMapOf)));
   Button& internet2 = In(Frame_Controllo_locatori, AddButton("internet2", "Call in internet"));
   Button& Tutti_loc = In(Frame_Controllo_locatori, AddButton("Tutti_loc", "ric Loc"));
   Button& Tutti_call = In(Frame_Controllo_locatori, AddButton("Tutti_call", "ric Call"));
@@ -178,9 +178,9 @@ struct CheckForm : CheckOptions {
   Button& database = In(Frame_ricerche, AddButton("database", "Cerca il call in archivio"));
   Button& CercaDtbIaru =
       In(Frame_ricerche, AddButton("CercaDtbIaru", "Cerca il locatore in archivio"));
-  Button& ric_in_quel_locatore = In(Frame_ricerche, AddButton("ric_in_quel_locatore", "cerca in "));
-  Button& internet = In(Frame_ricerche, AddButton("internet", "cerca su QRZ"));
-  Button& SEARC_loc = In(Frame_ricerche, AddButton("SEARC_loc", "Mappa "));
+  Button& ric_in_quel_locatore = In(Frame_ricerche, AddButton("ric_in_quel_locatore", ""));
+  Button& internet = In(Frame_ricerche, AddButton("internet", ""));
+  Button& SEARC_loc = In(Frame_ricerche, AddButton("SEARC_loc", ""));
   Button& espandi_archivio =
       In(Frame_ricerche, AddButton("espandi_archivio", "visualizza Archivio"));
 
@@ -192,6 +192,9 @@ struct CheckForm : CheckOptions {
   TextField& Text1 = In(Frame_solo_classifica, AddText("Text1", "Classifica"));
   List& visualizza_classifica = In(Frame_solo_classifica, AddList("visualizza_classifica"));
   Button& esci_da_cla = In(Frame_solo_classifica, AddButton("esci_da_cla", "exit"));
+
+  /// Tells on the look-ups what they would look for; of nothing, where both are empty.
+  void NameLookUps(std::string_view call, std::string_view locator);
 
   /// Empties what tells of the selected item.
   void ClearEvidence();
@@ -207,6 +210,7 @@ struct CheckForm : CheckOptions {
 
   static constexpr std::string_view kQueueTitle = "Classifica generale di banda";
   static constexpr std::string_view kUniqueTitle = "    Call unici    ";
+  static constexpr std::string_view kMapOf = "Visualizza in mappa il locatore : ";
   static constexpr std::string_view kTimeError = " conf. errore Time a : ";
   static constexpr std::string_view kReportError = " Conf. errore RST a : ";
 

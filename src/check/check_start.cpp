@@ -19,6 +19,7 @@ void CheckStart::prossimo_Click() {
   if (queue_.ChooseFirstUnchecked()) {
     state_.progress.salta_conferma = true;
     listacall_banda_DblClick();
+    state_.progress.salta_conferma = false;  // of a start that was refused as well
   }
 }
 
@@ -33,15 +34,16 @@ void CheckStart::listacall_banda_DblClick() {
     return;
   }
   if (state_.queue.TooShort(row)) {
-    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    manager_.Show(BrokenClassification());
     return;
   }
   Prepare();
   TakeRow(row);
   const std::string text = state_.queue.RowWithPosition(row);
   const bool checked = ClassificaRow(text).Checked();
-  const bool holds_decisions = report_.HoldsDecisions();
-  if (!checked && holds_decisions) {
+  if (checked) {
+    report_.Require();
+  } else {
     report_.CutToHead();
   }
   if (checked && !AskForRecheck()) {

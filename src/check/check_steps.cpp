@@ -5,11 +5,17 @@
 namespace velmar {
 
 void CheckSteps::Reset() {
+  CloseButtons();
+  times_left_out_ = false;
+  unique_left_out_ = false;
+  Show(CheckStep::kNone);
+}
+
+void CheckSteps::CloseButtons() {
   for (Button* button : {&form_.unici, &form_.aggiorna_punt_class, &form_.ordina}) {
     button->enabled = false;
     button->colour.reset();
   }
-  Show(CheckStep::kNone);
 }
 
 bool CheckSteps::TimesOpen() const {
@@ -23,6 +29,7 @@ void CheckSteps::Advance() {
   } else if (TimesOpen()) {
     Show(CheckStep::kTimes);
   } else {
+    times_left_out_ = form_.Lista_err_orario.items.rows().empty();
     Offer(form_.unici);
     Show(CheckStep::kUnique);
   }
@@ -45,6 +52,11 @@ void CheckSteps::OpenUpdate() {
   Show(CheckStep::kUpdate);
 }
 
+void CheckSteps::SkipToUpdate() {
+  unique_left_out_ = true;
+  OpenUpdate();
+}
+
 void CheckSteps::OpenSave() {
   form_.aggiorna_punt_class.colour.reset();
   form_.aggiorna_punt_class.enabled = false;
@@ -53,7 +65,7 @@ void CheckSteps::OpenSave() {
 }
 
 void CheckSteps::Finish() {
-  Reset();
+  CloseButtons();
   Show(CheckStep::kDone);
 }
 
@@ -62,17 +74,34 @@ void CheckSteps::Offer(Button& button) {
   button.colour = colour::kGreen;
 }
 
+/// Whether a step that lies behind was not taken: by an option, by the manager, or because this
+/// contest has nothing for it.
+bool CheckSteps::LeftOut(CheckStep step) const {
+  switch (step) {
+    case CheckStep::kTimes:
+      return times_left_out_;
+    case CheckStep::kReports:
+      return true;
+    case CheckStep::kUnique:
+      return unique_left_out_;
+    case CheckStep::kNotInLog:
+      return unique_left_out_ || !form_.NOT_IN_LOG.checked;
+    default:
+      return false;
+  }
+}
+
 void CheckSteps::Show(CheckStep open) {
   const int now = static_cast<int>(open);
   for (std::size_t i = 0; i < form_.passi.size(); ++i) {
     const int step = static_cast<int>(i) + 1;
     std::optional<int>& colour = form_.passi.at(i)->colour;
-    if (step < now) {
-      colour = colour::kGreen;
-    } else if (step == now) {
+    if (step == now) {
       colour = colour::kYellow;
-    } else {
+    } else if (step > now) {
       colour.reset();
+    } else {
+      colour = LeftOut(static_cast<CheckStep>(step)) ? colour::kWhite : colour::kGreen;
     }
   }
 }

@@ -31,6 +31,9 @@ class CheckSteps {
   /// The result can be written.
   void OpenUpdate();
 
+  /// The same without the unique calls and what is not in a log.
+  void SkipToUpdate();
+
   /// The result stands and is to be saved.
   void OpenSave();
 
@@ -41,10 +44,14 @@ class CheckSteps {
   bool TimesOpen() const;
 
  private:
+  void CloseButtons();
   static void Offer(Button& button);
+  bool LeftOut(CheckStep step) const;
   void Show(CheckStep open);
 
   CheckForm& form_;
+  bool times_left_out_ = false;
+  bool unique_left_out_ = false;
 };
 
 /// What marks the row that tells the time on the air, behind the last QSO of the list of times.

@@ -25,13 +25,14 @@ std::string ErrorReport::Path() const {
                                        session_.category_month);
 }
 
-bool ErrorReport::HoldsDecisions() {
-  return SplitLines(files_.ReadAll(Path())).size() > kErrorListHeadLines;
+void ErrorReport::Require() {
+  static_cast<void>(files_.ReadAll(Path()));
 }
 
 void ErrorReport::CutToHead() {
-  if (HoldsDecisions()) {
-    files_.WriteAll(Path(), ErrorListHeadOf(files_.ReadAll(Path())));
+  const std::string list = files_.ReadAll(Path());
+  if (SplitLines(list).size() > kErrorListHeadLines) {
+    files_.WriteAll(Path(), ErrorListHeadOf(list));
   }
 }
 
@@ -82,9 +83,16 @@ void ErrorReport::AppendTotals() {
 /// Writes the line of a decision; an error of the disk leaves the index as it was.
 void ErrorReport::AppendLine(const std::string& line) {
   const std::string list = files_.ReadAll(Path());
-  // A list that was cut in the middle of its last line keeps that line to itself.
-  const bool open_line = !list.empty() && list.back() != '\n';
-  files_.Append(Path(), Join(open_line ? kLineEnd : "", line, kLineEnd));
+  // A list that was cut in the middle of a line keeps that line to itself, and no decision stands
+  // among the lines of a head: the next start would take it for one.
+  std::string gap = !list.empty() && list.back() != '\n' ? std::string(kLineEnd) : std::string();
+  for (std::size_t lines = SplitLines(list).size(); lines < kErrorListHeadLines; ++lines) {
+    gap += kLineEnd;
+  }
+  files_.Append(Path(), Join(gap, line, kLineEnd));
+  if (form_.List_errori.visible) {
+    ShowList();
+  }
   ++state_.next_index;
 }
 
@@ -115,10 +123,16 @@ void ErrorReport::vis_err_Click() {
   if (form_.List_errori.visible) {
     List_errori_Click();
   } else if (!state_.call_in_esame.empty()) {
-    form_.List_errori.Fill(LinesOf(files_.ReadAll(Path())));
+    ShowList();
     form_.List_errori.visible = true;
     form_.vis_err.caption = form_.vis_err2.caption = "Nascondi lista errori";
   }
+}
+
+/// Fills the list on the screen, its end in sight.
+void ErrorReport::ShowList() {
+  form_.List_errori.Fill(LinesOf(files_.ReadAll(Path())));
+  form_.List_errori.top = static_cast<int>(form_.List_errori.items.rows().size()) - 1;
 }
 
 void ErrorReport::List_errori_Click() {

@@ -13,7 +13,8 @@
 namespace velmar {
 
 /// The error list of the call under examination, and what a penalty does: to the list, to the
-/// running score and to the row of the classification. All decisions go through here.
+/// running score and to the row of the classification. All decisions go through here. A list
+/// that is missing raises error 53, one that cannot be read or written its own.
 class ErrorReport {
  public:
   ErrorReport(ContestSession& session, FileSystem& files, Manager& manager, Printer& printer,
@@ -25,8 +26,8 @@ class ErrorReport {
         form_(form),
         state_(state) {}
 
-  /// Whether the list has more than its head: a check has written into it.
-  bool HoldsDecisions();
+  /// Reads the list, which has to be there.
+  void Require();
 
   /// Cuts a list that holds decisions to its head. A list without any is left alone.
   void CutToHead();
@@ -60,6 +61,7 @@ class ErrorReport {
   std::string Path() const;
   void AppendLine(const std::string& line);
   void Lower(const std::string& call, const std::string& points);
+  void ShowList();
   void ShowScore();
 
   ContestSession& session_;

@@ -17,7 +17,6 @@ constexpr std::size_t kMostQsos = 1500;
 constexpr std::size_t kMostDoubts = 10'000;
 constexpr std::size_t kMostFreshParticipants = 700;
 constexpr std::size_t kShortestParticipant = 18;
-constexpr Column kDeclaration{1, 18};  ///< call and locator of a participant
 
 void Add(std::vector<std::string>& doubts, std::string_view row, std::size_t place) {
   if (doubts.size() == kMostDoubts) {
@@ -140,21 +139,16 @@ bool LocatorCheck::ShowEvidence() {
   form_.log_diverso.caption = std::to_string(evidence.other);
   form_.infoloc.caption = verdict.text;
   state_.believed_wrong = verdict.believed_wrong;
-  if (verdict.Good()) {
+  if (verdict.good) {
     form_.QSO_ok.colour = colour::kGreen;
   } else {
     form_.conferma_errore.colour = verdict.doubt ? colour::kYellow : colour::kRed;
   }
-  ShowCaptions(*doubt);
+  form_.NameLookUps(RTrim(doubt->call), doubt->locator);
+  form_.lista_call_unici.Fill({});  // of another square, perhaps
   ShowDeclared(*doubt);
   TellOwnCall(*doubt);
-  return verdict.Good();
-}
-
-void LocatorCheck::ShowCaptions(const Doubt& doubt) {
-  form_.internet.caption = Join("cerca ", RTrim(doubt.call), " su QRZ");
-  form_.SEARC_loc.caption = Join("Mappa ", doubt.locator);
-  form_.ric_in_quel_locatore.caption = Join("cerca in ", Left(doubt.locator, 4));
+  return verdict.good;
 }
 
 void LocatorCheck::ShowDeclared(const Doubt& doubt) {
@@ -164,13 +158,13 @@ void LocatorCheck::ShowDeclared(const Doubt& doubt) {
     if (Cut(row, partecipante_row::kCall) == doubt.call &&
         Cut(row, partecipante_row::kCategory) == state_.categoria) {
       form_.Locatore_in_log_arrivato.caption =
-          Join("Locator in log arrivato : ", Cut(row, kDeclaration));
+          Join("Locator in log arrivato : ", Cut(row, partecipante_row::kDeclaration));
       state_.declared_locator = Cut(row, partecipante_row::kLocator);
       return;
     }
     if (Holds(row, call) && Holds(row, "/")) {
       form_.Locatore_in_log_arrivato.caption =
-          Join("Locator dichiarato da : ", Cut(row, kDeclaration));
+          Join("Locator dichiarato da : ", Cut(row, partecipante_row::kDeclaration));
     }
   }
 }
@@ -187,8 +181,7 @@ void LocatorCheck::TellOwnCall(const Doubt& doubt) {
 
 void LocatorCheck::Lista_locatori_Click() {
   if (const auto row = form_.Lista_locatori.ChosenRow()) {
-    form_.vedi_locator.caption =
-        Join("Visualizza in mappa il locatore : ", Cut(*row, qso_line::kLocator));
+    form_.vedi_locator.caption = Join(CheckForm::kMapOf, Cut(*row, qso_line::kLocator));
   }
 }
 

@@ -57,7 +57,6 @@ class LocatorCheck {
   bool CompareWithDeclared(std::vector<std::string>& doubts);
   bool ShowEvidence();
   void ShowDeclared(const Doubt& doubt);
-  void ShowCaptions(const Doubt& doubt);
   void TellOwnCall(const Doubt& doubt);
   std::optional<std::string> AskLocator();
   std::optional<std::string> CorrectCall(const Doubt& doubt);

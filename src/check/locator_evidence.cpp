@@ -9,7 +9,6 @@ namespace velmar {
 
 namespace {
 
-constexpr std::string_view kGood = "Locator OK";
 constexpr Column kEvidence{1, 30};
 
 }  // namespace
@@ -27,24 +26,20 @@ LocatorEvidence GatherEvidence(const std::vector<std::string_view>& others, std:
   return evidence;
 }
 
-bool LocatorVerdict::Good() const {
-  return text == kGood;
-}
-
 LocatorVerdict JudgeLocator(int same, int other) {
   // In this order: the last one that applies stands.
-  LocatorVerdict verdict;
+  LocatorVerdict verdict{.text = "", .good = false, .believed_wrong = false, .doubt = false};
   if (same >= other) {
-    verdict = {.text = kGood};
+    verdict = {.text = "Locator OK", .good = true, .believed_wrong = false, .doubt = false};
   }
   if (same < other) {
-    verdict = {.text = "          ", .believed_wrong = true};
+    verdict = {.text = "          ", .good = false, .believed_wrong = true, .doubt = false};
   }
   if (other == 1 && same == 0) {
-    verdict = {.text = " DUBBIO ", .doubt = true};
+    verdict = {.text = " DUBBIO ", .good = false, .believed_wrong = false, .doubt = true};
   }
   if (same == other) {
-    verdict = {.text = " ho un DUBBIO !! ", .doubt = true};
+    verdict = {.text = " ho un DUBBIO !! ", .good = false, .believed_wrong = false, .doubt = true};
   }
   return verdict;
 }

@@ -20,11 +20,9 @@ LocatorEvidence GatherEvidence(const std::vector<std::string_view>& others, std:
 /// What the evidence speaks for.
 struct LocatorVerdict {
   std::string_view text;  ///< shown to the manager
+  bool good = false;      ///< it speaks for the locator
   bool believed_wrong = false;
   bool doubt = false;
-
-  /// Whether the evidence speaks for the locator.
-  bool Good() const;
 };
 
 /// Judges the counts. `same` includes the log under examination.

@@ -41,7 +41,6 @@ void OptionMenu::Show() {
       settings.On(Setting::kHideOverThree) || !settings.On(Setting::kHideOverTwo);
   form_.Check7.checked = !form_.Check8.checked;
   form_.Check9.checked = false;
-  form_.NOT_ERROR.checked = false;
 }
 
 void OptionMenu::Set(Setting setting, bool on) {

@@ -11,7 +11,7 @@ class OptionMenu {
  public:
   OptionMenu(ContestSession& session, Manager& manager, CheckForm& form);
 
-  /// The ticks as the settings have them. The two options of this run alone are off.
+  /// The ticks as the settings have them. Opz5 is off; Opz15 stays as it was in this run.
   void Show();
 
  private:

@@ -23,6 +23,10 @@ Box LoadClassificationFirst() {
   return {.lines = {" è necessario caricare una classifica"_a}};
 }
 
+Box BrokenClassification() {
+  return {.lines = {" file clssifica corrotto o non valido "}};
+}
+
 void QueuePanel::ScanCategories() {
   const auto text = ReadIfThere(files_, session_.workspace.classification(session_.category_month));
   const auto rows = SplitLines(text ? *text : std::string_view());
@@ -55,7 +59,7 @@ bool QueuePanel::Load(const std::string& path, const std::string& name) {
   state_.categoria = CategoryCode(name);
   state_.classification_path = path;
   if (!state_.queue.Read(files_.ReadAll(path))) {
-    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    manager_.Show(BrokenClassification());
     return false;
   }
   form_.listacall_banda.Fill(state_.queue.Shown());
@@ -97,7 +101,7 @@ void QueuePanel::primo_carico_Click() {
 
 void QueuePanel::Reload(std::string separator) {
   if (!state_.queue.Read(files_.ReadAll(state_.classification_path))) {
-    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    manager_.Show(BrokenClassification());
   }
   state_.queue.SeparatePositions(std::move(separator));
   form_.listacall_banda.Fill(state_.queue.Shown());
@@ -176,7 +180,7 @@ void QueuePanel::Visualizza_solo_classifica_Click() {
 bool QueuePanel::ShowWideRows() {
   ClassificationQueue rows;
   if (!rows.Read(files_.ReadAll(state_.classification_path))) {
-    manager_.Show({.lines = {" file clssifica corrotto o non valido "}});
+    manager_.Show(BrokenClassification());
     return false;
   }
   rows.SeparatePositions(" (");

@@ -73,4 +73,7 @@ class QueuePanel {
 /// That there is nothing to work on yet.
 Box LoadClassificationFirst();
 
+/// That a classification, or a row of it, is not what it should be.
+Box BrokenClassification();
+
 }  // namespace velmar

@@ -16,7 +16,6 @@ namespace velmar {
 
 namespace {
 
-constexpr Column kDeclaration{1, 18};    ///< call and locator of a participant
 constexpr Column kListedCall{11, 12};    ///< of a row of the lists beside
 constexpr Column kProbableCall{11, 10};  ///< the same, as far as it is compared
 constexpr std::size_t kFewPresences = 3;
@@ -166,16 +165,15 @@ void UniqueCheck::Call_unici_Click() {
 }
 
 void UniqueCheck::ShowCaptions(const UniqueItem& item) {
-  form_.internet.caption = Join("cerca ", item.call, " su QRZ");
-  form_.SEARC_loc.caption = Join("Mappa ", item.locator);
+  form_.NameLookUps(item.call, item.locator);
   form_.log_callda_cercare.caption = Join("cerca  sul log di ", item.call);
-  form_.ric_in_quel_locatore.caption = Join("cerca in ", Left(item.locator, 4));
 }
 
 void UniqueCheck::HintParticipants(const UniqueItem& item) {
   for (const std::string& row : session_.participants) {
     if (Cut(row, partecipante_row::kCategory) == state_.categoria && Holds(row, item.call)) {
-      form_.messaggio_unici.caption = Join("CALL PARTECIPANTE:   ", Cut(row, kDeclaration));
+      form_.messaggio_unici.caption =
+          Join("CALL PARTECIPANTE:   ", Cut(row, partecipante_row::kDeclaration));
       form_.messaggio_unici.colour = colour::kYellow;
     }
   }
@@ -186,8 +184,8 @@ void UniqueCheck::HintParticipants(const UniqueItem& item) {
   const auto row = std::ranges::find_if(
       session_.participants, [&base](const std::string& text) { return Holds(text, base); });
   if (row != session_.participants.end()) {
-    form_.messaggio_unici.caption =
-        Join("Partecipante:   ", Cut(*row, kDeclaration), "       ", state_.categoria);
+    form_.messaggio_unici.caption = Join(
+        "Partecipante:   ", Cut(*row, partecipante_row::kDeclaration), "       ", state_.categoria);
   }
 }
 
@@ -399,7 +397,7 @@ void UniqueCheck::nasondi_Click() {
   ClearHints();
   state_.unici_saltati = true;
   state_.unique_checked = true;
-  steps_.OpenUpdate();
+  steps_.SkipToUpdate();
   manager_.Show({.lines = {" Hai saltato il controllo dei call unici/errati",
                            " per proseguire clicca sul pulsante VERDE"}});
 }

@@ -64,6 +64,7 @@ std::string SommaQsoRow(std::string_view qso, std::string_view category, std::st
 /// " partecipanti.par": one row for each log.
 namespace partecipante_row {
 inline constexpr Column kCall{1, 12}, kLocator{13, 6}, kCategory{20, 3}, kBand{24, 4};
+inline constexpr Column kDeclaration{1, 18};  ///< call and locator
 static_assert(FollowOneAnother({kCall, kLocator, {19, 1}, kCategory, {23, 1}, kBand}));
 }  // namespace partecipante_row
 

@@ -170,6 +170,24 @@ TEST(ErrorReport, ALineThatWasCutKeepsToItself) {
                    "  1    I1QXX       002    NOT IN LOG        JN44BB                 -107 "}));
 }
 
+TEST(ErrorReport, NoDecisionStandsAmongTheLinesOfACutHead) {
+  LocatorDesk desk;
+  desk.OneDoubt().Checked();
+  const std::string path =
+      desk.session.workspace.error_list(kCategory, "IK2QAA", desk.session.category_month);
+  desk.files.WriteAll(path, desk.ErrorListOf("IK2QAA").substr(0, 200));
+  desk.form.vis_err.Click();
+  desk.Decide(desk.form.not_inlog);
+  const Names decided{"  1    I1QXX       002    NOT IN LOG        JN44BB                 -107 "};
+  EXPECT_EQ(desk.Decisions("IK2QAA"), decided);
+  EXPECT_EQ(desk.form.List_errori.items.rows().back(), decided[0]) << "the list in sight grows";
+  desk.form.exit.Click();
+  desk.Loaded().Started("IK2QAA");
+  EXPECT_TRUE(desk.Decisions("IK2QAA").empty()) << "the broken check leaves no trace";
+  desk.Decide(desk.form.not_inlog);
+  EXPECT_EQ(desk.Decisions("IK2QAA"), decided);
+}
+
 TEST(ErrorReport, TheListIsShownAndHiddenAgain) {
   LocatorDesk desk;
   desk.OneDoubt().Checked();

@@ -30,7 +30,7 @@ TEST(JudgeLocator, TheLastRuleThatAppliesStands) {
     EXPECT_EQ(verdict.text, text) << same << " " << other;
     EXPECT_EQ(verdict.believed_wrong, believed_wrong) << same << " " << other;
     EXPECT_EQ(verdict.doubt, doubt) << same << " " << other;
-    EXPECT_EQ(verdict.Good(), good) << same << " " << other;
+    EXPECT_EQ(verdict.good, good) << same << " " << other;
   }
 }
 
