@@ -5,41 +5,25 @@
 #include <string_view>
 #include <vector>
 
-#include "check/check_desk.h"
 #include "check/library_split.h"
 #include "check/locator_doubts.h"
+#include "check/not_in_log_search.h"
+#include "check/somma_qso.h"
+#include "check/time_differences.h"
+#include "check/unique_calls.h"
+#include "examined_store.h"
 #include "made_logs.h"
 #include "made_store.h"
-#include "measuring.h"
-#include "model/contest_store.h"
-#include "model/error_list.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "model/workspace.h"
 #include "plain_doubts.h"
-#include "platform/disk_file_system.h"
-#include "player/script_ports.h"
 
 namespace velmar {
 namespace {
 
-constexpr std::string_view kMonth = "GENNAIO 2025";
-
-// The argument of each benchmark here is the rows of the library.
-
-std::size_t Logs(const benchmark::State& state) {
-  constexpr std::size_t kQsosOfALog = 124;
-  return static_cast<std::size_t>(state.range(0)) / kQsosOfALog;
-}
-
-bench::MadeStore StoreOf(const benchmark::State& state) {
-  return bench::MakeStore(static_cast<std::size_t>(state.range(0)), Logs(state));
-}
-
-/// The log under examination, by its number from 0: one in the middle of the library.
-std::size_t Examined(const benchmark::State& state) {
-  return Logs(state) / 2;
-}
+using bench::Examined;
+using bench::StoreOf;
 
 void BM_SplitLibrary(benchmark::State& state) {
   const bench::MadeStore store = StoreOf(state);
@@ -79,93 +63,75 @@ void BM_FindDoubtsByLoops(benchmark::State& state) {
 }
 BENCHMARK(BM_FindDoubtsByLoops)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
-/// Puts what the check of a log reads into a new workspace.
-void WriteStore(const bench::MadeStore& made, const Workspace& paths, const std::string& examined) {
-  DiskFileSystem files;
-  files.MakeFolder(paths.store());
-  files.MakeFolder(paths.category());
-  files.WriteAll(paths.store_file(StoreFile::kLibreria), made.library);
-  files.WriteAll(paths.store_file(StoreFile::kPartecipanti), made.participants);
-  files.WriteAll(paths.classification(kMonth), made.classification);
-  files.WriteAll(paths.error_list(kCategory, examined, kMonth),
-                 ErrorListHeadText({.title = "",
-                                    .month = std::string(kMonth),
-                                    .call = examined,
-                                    .locator = "",
-                                    .declared = "",
-                                    .band = "",
-                                    .category = std::string(kCategory)}));
-}
-
-/// A manager who wants every check to be started.
-class WillingManager : public bench::AbsentManager {
- public:
-  Reply Show(const Box& box) override {
-    AbsentManager::Show(box);
-    return Reply::kYes;
-  }
-};
-
-/// The check desk with the classification of a workspace.
-class Desk {
- public:
-  explicit Desk(const std::string& base) : session_(base) {
-    session_.category_month = kMonth;
-    session_.settings = Settings::New();
-    session_.archive_missing = true;
-    desk_.Open();
-    form.Option3.Click();
-  }
-
-  CheckForm form;
-  WillingManager manager;
-
- private:
-  ContestSession session_;
-  DiskFileSystem files_;
-  MachineFacts facts_;
-  ScriptClock clock_{facts_};
-  ScriptMachine machine_{facts_};
-  ScriptWeb web_{facts_, nullptr};
-  ScriptPrinter printer_{facts_, nullptr};
-  ContestStore store_{files_, session_.workspace};
-  Screen screen_;
-  MainForm main_;
-  CheckDesk desk_{
-      session_, {files_, manager, clock_, machine_, web_, printer_}, store_, screen_, main_, form};
-};
-
-/// All that happens from the double click on a log until its doubts are shown.
-void BM_CheckStart(benchmark::State& state) {
-  const bench::TempFolder folder;
-  WriteStore(StoreOf(state), Workspace(folder.path()), bench::MadeCall(Examined(state)));
-  Desk desk(folder.path());
-  const int boxes = desk.manager.boxes;
-  // The header stands ahead of the logs.
-  desk.form.listacall_banda.selection = static_cast<int>(Examined(state)) + 1;
+void BM_FindTimeDifferences(benchmark::State& state) {
+  const bench::MadeStore store = StoreOf(state);
+  const std::vector<SommaQso> rows = CutSommaRows(store.somma_qso);
+  const std::string call = bench::MadeCall(Examined(state));
   for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
-    desk.form.listacall_banda.DoubleClick();
+    benchmark::DoNotOptimize(FindTimeDifferences(rows, call));
   }
-  // A start asks one question, and tells of each failure in a box more.
-  if (desk.form.Lista_dubbi.items.rows().empty() ||
-      desk.manager.boxes - boxes != static_cast<int>(state.iterations())) {
-    state.SkipWithError("a check did not start");
+  const TimeDifferences found = FindTimeDifferences(rows, call);
+  if (found.items.empty() || found.items.size() == found.compared) {
+    state.SkipWithError("the times are wrong");
   }
 }
-BENCHMARK(BM_CheckStart)->Arg(10'000)->Arg(50'000)->Arg(248'000)->UseRealTime();
+BENCHMARK(BM_FindTimeDifferences)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
-/// What a start writes, by the plainest means: `cp` of the library, twice, over older copies.
-void BM_CopyTwice(benchmark::State& state) {
-  const bench::TempFolder folder;
-  const std::string library = folder.path() + "/library";
-  DiskFileSystem().WriteAll(library, StoreOf(state).library);
+/// An archive as large as the calls of many years.
+std::vector<std::string> MakeBook() {
+  constexpr std::size_t kEvery = 3;
+  std::vector<std::string> book;
+  for (std::size_t station = 0; station < bench::kMadeStations; station += kEvery) {
+    book.push_back(Join(Pad(bench::MadeCall(station), kCallWidth), bench::MadeLocator(station)));
+  }
+  return book;
+}
+
+void BM_FindUniqueCalls(benchmark::State& state) {
+  const bench::MadeStore store = StoreOf(state);
+  const LibrarySplit qsos = SplitLibrary(store.library, bench::MadeCall(Examined(state)));
+  const std::vector<std::string_view> participants = SplitLines(store.participants);
+  const std::vector<std::string> book = MakeBook();
+  const UniqueSources sources{.log = qsos.log,
+                              .others = qsos.others,
+                              .participants = participants,
+                              .call_book = book,
+                              .hide_in_book = true,
+                              .hide_with_log = true,
+                              .hide_over_two = false};
   for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
-    for (const char* copy : {"/first", "/second"}) {
-      bench::RunChild([&]() -> std::string { bench::BecomeCopy(library, folder.path() + copy); });
-    }
+    benchmark::DoNotOptimize(FindUniqueCalls(sources));
+  }
+  const std::size_t found = FindUniqueCalls(sources).size();
+  if (found == 0 || found > qsos.log.size() / 2) {
+    state.SkipWithError("the unique calls are wrong");
   }
 }
-BENCHMARK(BM_CopyTwice)->Arg(10'000)->Arg(50'000)->Arg(248'000)->UseRealTime();
+BENCHMARK(BM_FindUniqueCalls)->Arg(10'000)->Arg(50'000)->Arg(248'000);
+
+void BM_FindNotInLog(benchmark::State& state) {
+  const bench::MadeStore store = StoreOf(state);
+  const std::string call = bench::MadeCall(Examined(state));
+  const std::string locator = bench::MadeLocator(Examined(state));
+  const LibrarySplit qsos = SplitLibrary(store.library, call);
+  const std::vector<std::string_view> participants = SplitLines(store.participants);
+  const std::vector<std::string_view> total = SplitLines(store.total_library);
+  const NotInLogSources sources{.log = qsos.log,
+                                .others = qsos.others,
+                                .participants = participants,
+                                .total_library = total,
+                                .category = kCategory,
+                                .call = call,
+                                .locator = locator};
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+    benchmark::DoNotOptimize(FindNotInLog(sources, false));
+  }
+  const std::size_t found = FindNotInLog(sources, false).size();
+  if (found == 0 || found > qsos.log.size() / 2) {
+    state.SkipWithError("what is not in a log is wrong");
+  }
+}
+BENCHMARK(BM_FindNotInLog)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
 }  // namespace
 }  // namespace velmar

@@ -1,20 +1,20 @@
-// Plays a sample contest from the received logs to the first classification, without a screen. All
-// of it goes through the player, as a manager would go through the windows.
+// Plays a sample contest from the received logs to the checked classification, without a screen.
+// All of it goes through the player, as a manager would go through the windows.
 
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "demo/desk_manager.h"
+#include "demo/fault_ledger.h"
+#include "demo/played_program.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/ansi.h"
 #include "platform/disk_file_system.h"
-#include "player/player.h"
 #include "sample/sample_contest.h"
 
 namespace velmar {
@@ -22,49 +22,13 @@ namespace {
 
 const SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
 constexpr std::string_view kMonth = "GENNAIO 2025";
-constexpr std::size_t kNarrated = 120;  ///< bytes shown of a box
-
-/// The day on which the demo plays, whatever the machine's date is.
-constexpr std::string_view kToday = "date 21/01/2025\n";
+constexpr std::size_t kBestRows = 10;  ///< shown of the checked classification
 
 void Heading(const std::string& text) {
   std::cout << "\n== " << text << '\n';
 }
 
-/// The part of a record between two marks; empty where it has none.
-std::string_view Between(std::string_view record, std::string_view from, std::string_view to) {
-  const std::size_t begin = record.find(from);
-  const std::size_t end = begin == std::string_view::npos ? begin : record.find(to, begin);
-  return end == std::string_view::npos
-             ? std::string_view()
-             : record.substr(begin + from.size(), end - begin - from.size());
-}
-
-/// Shows a record of the player as a line to read: the beginning of a box, or a window.
-void Narrate(std::string_view record) {
-  if (record.starts_with("{\"box\"")) {
-    const auto lines = Between(record, "\"lines\":[", "],\"buttons\"");
-    const auto reply = Between(record, "\"reply\":\"", "\"}");
-    std::cout << "  [" << reply << "] " << lines.substr(0, kNarrated)
-              << (lines.size() > kNarrated ? "..." : "") << std::endl;
-  } else if (record.starts_with("{\"form\"")) {
-    std::cout << "  " << (Holds(record, "true") ? "opens  " : "closes ")
-              << Between(record, "{\"form\":\"", "\",") << std::endl;
-  }
-}
-
-void Play(const std::string& workspace, const std::string& commands) {
-  std::ostringstream records;
-  std::ostringstream complaints;
-  Player player(workspace, records, complaints);
-  player.on_record = Narrate;
-  std::istringstream script(std::string(kToday) + commands);
-  if (player.Play(script) != PlayResult::kPlayed) {
-    throw std::runtime_error("the demo came to a stop: " + complaints.str());
-  }
-}
-
-void ReceiveLogs(FileSystem& files, const Workspace& workspace) {
+std::vector<PlantedFault> ReceiveLogs(FileSystem& files, const Workspace& workspace) {
   const SampleContest contest = MakeSampleContest(kContest);
   for (const ReceivedLog& log : contest.logs) {
     files.WriteAll(workspace.to_recalculate() + "/" + log.file_name, log.content);
@@ -72,6 +36,7 @@ void ReceiveLogs(FileSystem& files, const Workspace& workspace) {
   files.WriteAll(workspace.base() + "/guasti_piantati.txt", FaultList(contest.faults));
   std::cout << "  " << contest.logs.size() << " logs received, with " << contest.faults.size()
             << " planted faults\n";
+  return contest.faults;
 }
 
 /// Where the manager keeps the logs that were refused.
@@ -87,12 +52,81 @@ void PutAwayRefusedLogs(FileSystem& files, const Workspace& workspace) {
   }
 }
 
-/// The classification as it lies in the store, in the order in which the logs came in.
-void ShowClassification(FileSystem& files, const Workspace& workspace) {
-  const std::string text = files.ReadAll(workspace.classification(kMonth));
-  for (const std::string_view row : SplitLines(text)) {
-    std::cout << "  " << Utf8FromAnsi(row) << '\n';
+/// A file of the program, as it lies there.
+void ShowText(FileSystem& files, const std::string& path) {
+  const std::string text = files.ReadAll(path);
+  for (const std::string_view line : SplitLines(text)) {
+    std::cout << "  " << Utf8FromAnsi(line) << '\n';
   }
+}
+
+void ShowCheck(const CheckedCall& checked) {
+  std::cout << "  " << Pad(checked.call, kCallWidth) << "doubts " << checked.doubts << ", times "
+            << checked.times << ", unique " << checked.unique << ", not in log "
+            << checked.not_in_log;
+  if (checked.errors > 0) {
+    std::cout << "; " << checked.errors << " penalised, " << checked.points_lost << " km";
+  }
+  std::cout << std::endl;
+}
+
+/// Checks every call of the queue, and returns the one with the most errors.
+std::string CheckQueue(PlayedProgram& program, FaultLedger& ledger) {
+  DeskManager manager(program, ledger);
+  CheckedCall worst;
+  const std::size_t calls = program.See("listacall_banda").items.rows().size() - 1;
+  for (std::size_t i = 0; i < calls; ++i) {
+    const CheckedCall checked = manager.CheckNext();
+    ShowCheck(checked);
+    if (checked.errors > worst.errors) {
+      worst = checked;
+    }
+  }
+  return worst.call;
+}
+
+/// The first rows of the queue as the desk shows them.
+void ShowBest(PlayedProgram& program) {
+  const auto& rows = program.See("listacall_banda").items.rows();
+  for (std::size_t i = 0; i < rows.size() && i <= kBestRows; ++i) {
+    std::cout << "  " << Utf8FromAnsi(rows[i]) << '\n';
+  }
+}
+
+void ShowFindings(const FaultLedger& ledger) {
+  Heading("What the desk proposed of the planted faults");
+  for (const std::string& row : ledger.Rows()) {
+    std::cout << "  " << row << '\n';
+  }
+  for (const PlantedFault& fault : ledger.Missed()) {
+    std::cout << "  not proposed: " << FaultName(fault.kind) << " in the log of " << fault.log
+              << ", QSO " << fault.qso << " with " << fault.other << ", " << fault.note << '\n';
+  }
+}
+
+void CheckLogs(FileSystem& files, const Workspace& workspace,
+               const std::vector<PlantedFault>& faults) {
+  FaultLedger ledger(faults);
+  PlayedProgram program(workspace.base());
+  Heading("The fourth start: the check desk, with the check of times, every decision by hand");
+  program.Tell(
+      "start\n"
+      "click OK_mese\n"
+      "click Command2\n"
+      "click controlla_locatori\n"
+      "tick no_control_time\n"
+      "click Option3\n");
+  const std::string worst = CheckQueue(program, ledger);
+  program.Tell("click primo_dacontrollare\n");
+  Heading("The checked classification");
+  ShowBest(program);
+  program.Tell(
+      "click VLM2M_02_Controlli.torna_menu\n"
+      "answer yes\n"
+      "click VLM2M_01_input.esci\n");
+  Heading("The error list of " + worst);
+  ShowText(files, workspace.error_list(kCategory, worst, kMonth));
+  ShowFindings(ledger);
 }
 
 void Run(const std::string& folder) {
@@ -102,37 +136,40 @@ void Run(const std::string& folder) {
   DiskFileSystem files;
 
   Heading("The first start makes the folders");
-  Play(workspace.base(), "start\n");
+  PlayedProgram(workspace.base()).Tell("start\n");
   Heading("The logs arrive");
-  ReceiveLogs(files, workspace);
+  const std::vector<PlantedFault> faults = ReceiveLogs(files, workspace);
   Heading("The second start, the month, the configuration, and the recalculation");
-  Play(workspace.base(),
-       "start\n"
-       "click OK_mese\n"
-       "click Command2\n"
-       "click restore_1KM\n"
-       "answer no\n"  // to the Italian log with a locator abroad
-       "click rinomina\n"
-       "click torna_menu\n"
-       "click Exit\n");
+  PlayedProgram(workspace.base())
+      .Tell(
+          "start\n"
+          "click OK_mese\n"
+          "click Command2\n"
+          "click restore_1KM\n"
+          "answer no\n"  // to the Italian log with a locator abroad
+          "click rinomina\n"
+          "click torna_menu\n"
+          "click Exit\n");
   Heading("The manager puts the refused logs away: with them no start goes on");
   PutAwayRefusedLogs(files, workspace);
   Heading("The third start: the logs get their names, and all of them are inserted");
-  Play(workspace.base(),
-       "start\n"
-       "click OK_mese\n"
-       "click Command2\n"
-       "click Rinomina_ita\n"
-       "click rinomina\n"
-       "click VLM2M_05_rin_ITA.torna_menu\n"
-       "tick Check_AUT_entry\n"
-       "tick turbo\n"
-       "input-default\n"  // the date of the contest
-       "click caricaedi\n"
-       "answer yes\n"
-       "click VLM2M_01_input.esci\n");
+  PlayedProgram(workspace.base())
+      .Tell(
+          "start\n"
+          "click OK_mese\n"
+          "click Command2\n"
+          "click Rinomina_ita\n"
+          "click rinomina\n"
+          "click VLM2M_05_rin_ITA.torna_menu\n"
+          "tick Check_AUT_entry\n"
+          "tick turbo\n"
+          "input-default\n"  // the date of the contest
+          "click caricaedi\n"
+          "answer yes\n"
+          "click VLM2M_01_input.esci\n");
   Heading("The first classification");
-  ShowClassification(files, workspace);
+  ShowText(files, workspace.classification(kMonth));
+  CheckLogs(files, workspace, faults);
 
   Heading("What was made");
   const auto count = [&](const std::string& path, std::string_view pattern) {

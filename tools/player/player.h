@@ -30,8 +30,12 @@ class Player {
   /// `workspace` is the folder of the program, in code page 1252.
   Player(const std::string& workspace, std::ostream& out, std::ostream& err);
 
-  /// Plays a script in UTF-8.
+  /// Plays a script in UTF-8. Another one goes on where this one ended.
   PlayResult Play(std::istream& script);
+
+  /// A control as it stands, by a name as scripts have it, for one who decides by what is to be
+  /// seen. Raises std::runtime_error where there is none. Good until the next start of the program.
+  const Control& See(const std::string& name) { return Find(name); }
 
   /// Called with each record as it is written.
   std::function<void(const std::string& record)> on_record;
