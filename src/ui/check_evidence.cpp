@@ -3,10 +3,12 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "ui/check_window.h"
+#include "ui/column_titles.h"
 #include "ui/look.h"
 #include "ui/path_view.h"
 #include "ui/row_view.h"
@@ -16,13 +18,7 @@ namespace velmar {
 namespace {
 
 constexpr int kDecisionsInARow = 2;
-constexpr int kWide = 5;  // parts of the width
-constexpr int kNarrow = 3;
-
-/// Lets a line keep its place while it has nothing to tell, so that what is below does not jump.
-void KeepPlace(QWidget& line, const QFont& font) {
-  line.setMinimumHeight(QFontMetrics(font).height());
-}
+constexpr int kCountWidth = 44;  // px
 
 /// Puts a frame, whose sight is its control's, into a widget that the window can hide.
 QWidget* Hold(QWidget* frame) {
@@ -45,10 +41,17 @@ QHBoxLayout* CheckWindow::MakeChecks() {
   empty->setWordWrap(true);
   SetQuiet(*empty);
   empty_ = empty;
-  checks->addWidget(empty, kWide);
-  checks->addWidget(locators_ = Hold(MakeLocators()), kWide);
-  checks->addWidget(times_ = Hold(MakeTimes()), kNarrow);
-  checks->addWidget(MakeUniques(), kWide);
+  place_ = new QWidget;
+  auto* cell = new QGridLayout(place_);
+  cell->setContentsMargins(0, 0, 0, 0);
+  cell->addWidget(empty, 0, 0);
+  cell->addWidget(locators_ = Hold(MakeLocators()), 0, 0);
+  cell->addWidget(uniques_ = Hold(MakeUniques()), 0, 0);
+  auto* open = new QVBoxLayout;
+  open->setSpacing(kGap);
+  open->addWidget(place_, 1);
+  open->addWidget(times_ = Hold(MakeTimes()));
+  checks->addLayout(open, 1);
   checks->addWidget(MakeLookUps());
   return checks;
 }
@@ -62,23 +65,13 @@ QWidget* CheckWindow::MakeLocators() {
   AddList(*lists, form_.Lista_dubbi, 1);
   AddList(*lists, form_.Lista_locatori, 1);
   rows->addLayout(lists, 1);
-  auto* decisions = new QGridLayout;
-  decisions->setSpacing(kGap);
-  int place = 0;
-  for (Button* button :
-       {&form_.conferma_errore, &form_.errore_call, &form_.not_inlog, &form_.QSO_ok}) {
-    auto* decision = Make<QPushButton>(*button);
-    decision->setFont(HeadingFont(0));
-    decisions->addWidget(decision, place / kDecisionsInARow, place % kDecisionsInARow);
-    ++place;
-  }
-  rows->addLayout(decisions);
-  rows->addWidget(Make<QPushButton>(form_.vedi_locator));
+  rows->addLayout(
+      MakeDecisions({&form_.conferma_errore, &form_.errore_call, &form_.not_inlog, &form_.QSO_ok},
+                    kDecisionsInARow));
   auto* searches = new QHBoxLayout;
   searches->setSpacing(kGap);
-  for (Button* button : {&form_.internet2, &form_.Tutti_loc, &form_.Tutti_call}) {
-    searches->addWidget(Make<QPushButton>(*button));
-  }
+  searches->addWidget(Make<QPushButton>(form_.vedi_locator), 1);
+  AddButtons(*searches, {&form_.internet2, &form_.Tutti_loc, &form_.Tutti_call});
   rows->addLayout(searches);
   return rows->parentWidget();
 }
@@ -95,7 +88,7 @@ QWidget* CheckWindow::MakeVerdict() {
   row->addStretch(1);
   row->addWidget(MakeTitled(QStringLiteral("Uguali"), form_.log_uguali));
   row->addWidget(MakeTitled(QStringLiteral("Diversi"), form_.log_diverso));
-  KeepPlace(*verdict, judged->font());
+  row->addStrut(judged->fontMetrics().height());  // keeps its place with nothing to tell
   return verdict;
 }
 
@@ -106,39 +99,81 @@ QWidget* CheckWindow::MakeDeclared() {
   row->setSpacing(kSpacing);
   row->addWidget(Make<PathLabel>(form_.Locatore_in_log_arrivato), 1);
   row->addWidget(Make<PathLabel>(form_.err_loc_log), 1);
-  KeepPlace(*declared, declared->font());
+  row->addStrut(declared->fontMetrics().height());
   return declared;
 }
 
 QWidget* CheckWindow::MakeTimes() {
   QBoxLayout* rows = MakeFrame(form_.Frame_Log_errori_tempo);
-  rows->addWidget(Make<RowView>(form_.Lista_err_orario), 1);
-  for (Button* button : {&form_.conf_err_time, &form_.conf_err_RST, &form_.convalida_qso_time}) {
-    rows->addWidget(Make<QPushButton>(*button));
-  }
+  times_rows_ = rows;
+  rows->addLayout(MakeTimesHead());
+  times_list_ = new QWidget;
+  auto* list = new QVBoxLayout(times_list_);
+  list->setContentsMargins(0, 0, 0, 0);
+  list->setSpacing(0);
+  times_titles_ = Make<ColumnTitles>(form_.Label11);
+  SetQuiet(*times_titles_);
+  list->addWidget(times_heading_ = Hold(times_titles_));
+  times_view_ = Make<RowView>(form_.Lista_err_orario);
+  times_view_->setMinimumHeight(times_view_->HeightOf(1));
+  times_titles_->Follow(*times_view_);
+  list->addWidget(times_view_, 1);
+  rows->addWidget(times_list_, 1);
+  times_decisions_ = new QWidget;
+  auto* decisions = new QVBoxLayout(times_decisions_);
+  decisions->setContentsMargins(0, 0, 0, 0);
+  decisions->setSpacing(kGap);
+  decisions->addLayout(
+      MakeDecisions({&form_.conf_err_time, &form_.conf_err_RST, &form_.convalida_qso_time}, 3));
+  auto* views = new QHBoxLayout;
+  views->setSpacing(kGap);
+  AddButtons(*views, {&form_.vis_log, &form_.cerca_qso_rst});
+  decisions->addLayout(views);
+  rows->addWidget(times_decisions_);
   return rows->parentWidget();
 }
 
-QWidget* CheckWindow::MakeUniques() {
-  QBoxLayout* rows = MakeFrame(form_.Frame_unici);
-  uniques_ = new QVBoxLayout;
-  uniques_->setSpacing(kGap);
-  for (List* list : {&form_.Call_unici, &form_.Lista_simili}) {
-    AddList(*uniques_, *list, 1);
-  }
-  rows->addLayout(uniques_, 1);
-  for (Button* button : {&form_.Controlla_estero, &form_.nasondi}) {
-    rows->addWidget(Make<QPushButton>(*button));
-  }
-  return rows->parentWidget();
+QBoxLayout* CheckWindow::MakeTimesHead() {
+  auto* head = new QHBoxLayout;
+  head->setSpacing(kSpacing);
+  auto* what = Make<QLabel>(form_.Label25);
+  what->setFont(HeadingFont(0));
+  head->addWidget(what);
+  head->addWidget(Make<PathLabel>(form_.messaggio));
+  head->addWidget(MakeTitled(QStringLiteral("Punti"), form_.kmerr));
+  head->addStretch(1);
+  auto* agreeing = new QLabel(QStringLiteral("Uguali"));
+  SetQuiet(*agreeing);
+  head->addWidget(agreeing);
+  QLineEdit* count = MakeDisplay(form_.Text3);
+  count->setFixedWidth(kCountWidth);
+  head->addWidget(count);
+  return head;
+}
+
+/// Times that differ have the place of the checks when it is their turn. Else what there is to tell
+/// of them takes a line below the check that is open, or a few when none is.
+void CheckWindow::ArrangeTimes(bool open, bool alone) {
+  constexpr int kTimeOnAirWidth = 42;  // characters
+  const bool listed = !form_.Lista_err_orario.items.rows().empty();
+  times_->setVisible(listed || !form_.messaggio.caption.empty());
+  times_list_->setVisible(listed);
+  times_list_->setMinimumWidth(
+      open ? 0 : kTimeOnAirWidth * times_view_->fontMetrics().horizontalAdvance(u'0'));
+  times_heading_->setVisible(open);
+  times_decisions_->setVisible(open);
+  times_view_->setMaximumHeight(open ? QWIDGETSIZE_MAX : times_view_->HeightOf(1));
+  times_view_->setHorizontalScrollBarPolicy(open ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  times_rows_->setDirection(open || alone ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  // Where the columns stand depends on the length of the call under examination.
+  const int call = static_cast<int>(form_.call_in_esame.caption.size());
+  times_titles_->PlaceAt({0, 4, 5 + call, 10 + call, 27 + call, 33 + call});
 }
 
 QWidget* CheckWindow::MakeLookUps() {
   QBoxLayout* rows = MakeFrame(form_.Frame_ricerche);
-  for (Button* button : {&form_.database, &form_.CercaDtbIaru, &form_.ric_in_quel_locatore,
-                         &form_.internet, &form_.SEARC_loc, &form_.espandi_archivio}) {
-    rows->addWidget(Make<QPushButton>(*button));
-  }
+  AddButtons(*rows, {&form_.database, &form_.CercaDtbIaru, &form_.ric_in_quel_locatore,
+                     &form_.internet, &form_.SEARC_loc, &form_.espandi_archivio});
   AddList(*rows, form_.lista_call_unici, 1);
   return rows->parentWidget();
 }

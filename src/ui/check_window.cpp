@@ -2,7 +2,6 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -10,13 +9,12 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSplitter>
-#include <QStringList>
 #include <QVBoxLayout>
 
+#include "check/check_steps.h"
 #include "ui/column_titles.h"
 #include "ui/look.h"
 #include "ui/path_view.h"
-#include "ui/qt_text.h"
 #include "ui/row_view.h"
 
 namespace velmar {
@@ -29,17 +27,10 @@ constexpr int kGroupMargin = 7;
 constexpr int kLoadingWidth = 236;
 constexpr int kSearchWidth = 90;
 constexpr int kProgressWidth = 180;
-constexpr int kQueueRows = 2;  // at least
-constexpr int kFewErrors = 2;
+constexpr int kFewRows = 2;  // of a list, at least
 constexpr int kMostErrors = 8;
 constexpr int kQueuePart = 3;  // of the height
 constexpr int kChecksPart = 5;
-
-/// The height of so many rows.
-int HeightOf(const RowView& view, int rows) {
-  constexpr int kRowPadding = 6;
-  return rows * (view.fontMetrics().height() + kRowPadding) + 2 * view.frameWidth();
-}
 
 }  // namespace
 
@@ -57,16 +48,34 @@ CheckWindow::CheckWindow(CheckForm& form, EventRunner& runner)
   resize(kUsual);
   Finish(content);
   SetKeys();
+  TellKeys();
 }
 
 void CheckWindow::Refresh() {
+  Arrange();  // first, so that what is to have the focus can be seen
   FormWindow::Refresh();
-  // A check with nothing open leaves its room to the others.
-  const bool doubts = !form_.Lista_dubbi.items.rows().empty();
-  locators_->setVisible(doubts || !form_.Frame_unici.visible);
-  uniques_->setDirection(doubts ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-  times_->setVisible(!form_.Lista_err_orario.items.rows().empty());
-  empty_->setVisible(!form_.Frame_Controllo_locatori.visible && !form_.Frame_unici.visible);
+  TellKeys();
+}
+
+/// The checks are settled in their order: one with open items keeps those behind it back, and one
+/// without leaves them its room.
+void CheckWindow::Arrange() {
+  const bool doubts =
+      form_.Frame_Controllo_locatori.visible && !form_.Lista_dubbi.items.rows().empty();
+  const bool times = !doubts && CheckSteps(form_).TimesOpen();
+  const bool uniques = form_.Frame_unici.visible && !doubts && !times;
+  const bool locators = form_.Frame_Controllo_locatori.visible && !uniques && !times;
+  top_->setVisible(!form_.Frame_log.visible);
+  locators_->setVisible(locators);
+  uniques_->setVisible(uniques);
+  empty_->setVisible(!locators && !uniques && form_.call_in_esame.caption.empty());
+  place_->setVisible(!times);
+  ArrangeTimes(times, !locators && !uniques);
+  const bool found = !form_.lista_notlog.items.rows().empty();
+  const bool unique = !form_.Call_unici.items.rows().empty();
+  unique_calls_->setVisible(unique || !found);
+  nearby_->setVisible(unique || !found);
+  explanations_->setVisible(found);
 }
 
 QBoxLayout* CheckWindow::MakeFrame(Frame& frame) {
@@ -77,14 +86,34 @@ QBoxLayout* CheckWindow::MakeFrame(Frame& frame) {
   return rows;
 }
 
-void CheckWindow::AddList(QBoxLayout& rows, List& list, int stretch) {
+RowView* CheckWindow::AddList(QBoxLayout& rows, List& list, int stretch) {
   auto* column = new QVBoxLayout;
   column->setSpacing(0);
   const Columns made = MakeColumns(list);
-  made.rows->setMinimumHeight(HeightOf(*made.rows, 2));
+  made.rows->setMinimumHeight(made.rows->HeightOf(kFewRows));
   column->addWidget(made.titles);
   column->addWidget(made.rows, 1);
   rows.addLayout(column, stretch);
+  return made.rows;
+}
+
+void CheckWindow::AddButtons(QBoxLayout& row, const std::vector<Button*>& buttons) {
+  for (Button* button : buttons) {
+    row.addWidget(Make<QPushButton>(*button));
+  }
+}
+
+QGridLayout* CheckWindow::MakeDecisions(const std::vector<Button*>& buttons, int in_a_row) {
+  auto* decisions = new QGridLayout;
+  decisions->setSpacing(kGap);
+  int place = 0;
+  for (Button* button : buttons) {
+    auto* decision = Make<QPushButton>(*button);
+    decision->setFont(HeadingFont(0));
+    decisions->addWidget(decision, place / in_a_row, place % in_a_row);
+    ++place;
+  }
+  return decisions;
 }
 
 QWidget* CheckWindow::MakeDesk() {
@@ -94,9 +123,7 @@ QWidget* CheckWindow::MakeDesk() {
   rows->setSpacing(kGap);
   auto* parts = new QSplitter(Qt::Vertical);
   parts->setChildrenCollapsible(false);
-  auto* top = new QWidget;
-  top->setLayout(MakeTop());
-  parts->addWidget(top);
+  parts->addWidget(MakeTop());
   auto* work = new QWidget;
   auto* work_rows = new QVBoxLayout(work);
   work_rows->setContentsMargins(0, 0, 0, 0);
@@ -120,14 +147,20 @@ QWidget* CheckWindow::MakeDesk() {
   return desk;
 }
 
-QHBoxLayout* CheckWindow::MakeTop() {
-  auto* top = new QHBoxLayout;
+QWidget* CheckWindow::MakeTop() {
+  auto* place = new QWidget;
+  auto* rows = new QVBoxLayout(place);
+  rows->setContentsMargins(0, 0, 0, 0);
+  top_ = new QWidget;
+  auto* top = new QHBoxLayout(top_);
   top->setContentsMargins(0, 0, 0, 0);
   top->setSpacing(kSpacing);
   QWidget* loading = MakeLoading();
   top->addWidget(MakeQueue(), 1);
   top->addWidget(loading);
-  return top;
+  rows->addWidget(top_);
+  rows->addWidget(MakeLogs());
+  return place;
 }
 
 QWidget* CheckWindow::MakeLoading() {
@@ -151,7 +184,7 @@ QWidget* CheckWindow::MakeQueue() {
   SetQuiet(*titles);
   list->addWidget(titles);
   queue_ = Make<RowView>(form_.listacall_banda);
-  queue_->setMinimumHeight(HeightOf(*queue_, kQueueRows) +
+  queue_->setMinimumHeight(queue_->HeightOf(kFewRows) +
                            queue_->horizontalScrollBar()->sizeHint().height());
   titles->Follow(*queue_);
   list->addWidget(queue_, 1);
@@ -187,26 +220,19 @@ QHBoxLayout* CheckWindow::MakeQueueName() {
 
 QWidget* CheckWindow::MakeExam() {
   QBoxLayout* rows = MakeFrame(form_.Frame_esame);
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(kSpacing);
-  grid->setVerticalSpacing(kGap);
-  grid->setColumnStretch(0, 1);
-  grid->addLayout(MakeScore(), 0, 0);
+  QHBoxLayout* score = MakeScore();
   auto* row = Make<ColumnTitles>(form_.evidenzia);
   row->Follow(*queue_);
-  grid->addLayout(MakeOrder(), 1, 0);
-  int place = 0;
-  for (Button* button : {&form_.unici, &form_.aggiorna_punt_class, &form_.ordina, &form_.vis_err,
-                         &form_.vis_err2, &form_.stampa_errori}) {
-    constexpr int kInARow = 3;
-    grid->addWidget(Make<QPushButton>(*button), place / kInARow, 1 + place % kInARow);
-    ++place;
-  }
-  rows->addLayout(grid);
+  AddButtons(*score, {&form_.vis_err, &form_.vis_err2, &form_.stampa_errori});
+  rows->addLayout(score);
+  QHBoxLayout* order = MakeOrder();
+  AddButtons(*order,
+             {&form_.control_time, &form_.unici, &form_.aggiorna_punt_class, &form_.ordina});
+  rows->addLayout(order);
   rows->addWidget(row);
   auto* errors = Make<RowView>(form_.List_errori);
-  errors->setMinimumHeight(HeightOf(*errors, kFewErrors));
-  errors->setMaximumHeight(HeightOf(*errors, kMostErrors));
+  errors->setMinimumHeight(errors->HeightOf(kFewRows));
+  errors->setMaximumHeight(errors->HeightOf(kMostErrors));
   rows->addWidget(errors, 1);
   // No higher than it needs to be; the list of errors, when it is shown, asks for its share.
   rows->parentWidget()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
@@ -229,7 +255,7 @@ QHBoxLayout* CheckWindow::MakeScore() {
 
 QHBoxLayout* CheckWindow::MakeOrder() {
   auto* order = new QHBoxLayout;
-  order->setSpacing(2);
+  order->setSpacing(kGap);
   for (Label* step : form_.passi) {
     auto* lamp = MakeLamp(*step);
     QFont font = lamp->font();
@@ -248,6 +274,9 @@ QHBoxLayout* CheckWindow::MakeFoot() {
   SetCaption(*hint_);
   hint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   foot->addWidget(hint_, 1);
+  auto* wait = Make<QLabel>(form_.Attendi_calcolo);
+  wait->setFont(HeadingFont(0));
+  foot->addWidget(wait);
   auto* progress = Make<QProgressBar>(form_.Bar1);
   progress->setFixedWidth(kProgressWidth);
   foot->addWidget(progress);
@@ -265,47 +294,6 @@ QWidget* CheckWindow::MakeWideView() {
   rows->addWidget(Make<RowView>(form_.visualizza_classifica), 1);
   rows->addWidget(Make<QPushButton>(form_.esci_da_cla), 0, Qt::AlignRight);
   return rows->parentWidget();
-}
-
-void CheckWindow::SetKeys() {
-  struct Key {
-    const Button* button;
-    QKeySequence key;
-  };
-  // The first ones are told at the foot of the window.
-  constexpr qsizetype kTold = 9;
-  const Key keys[] = {{&form_.primo_dacontrollare, Qt::Key_F2},
-                      {&form_.prossimo, Qt::Key_F3},
-                      {&form_.conferma_errore, Qt::Key_F5},
-                      {&form_.errore_call, Qt::Key_F6},
-                      {&form_.not_inlog, Qt::Key_F7},
-                      {&form_.QSO_ok, Qt::Key_F8},
-                      {&form_.unici, Qt::Key_F9},
-                      {&form_.aggiorna_punt_class, Qt::Key_F11},
-                      {&form_.ordina, Qt::Key_F12},
-                      {&form_.vis_err, Qt::Key_F4},
-                      {&form_.nasondi, Qt::CTRL | Qt::Key_F9},
-                      {&form_.conf_err_time, Qt::CTRL | Qt::Key_F5},
-                      {&form_.conf_err_RST, Qt::CTRL | Qt::Key_F6},
-                      {&form_.convalida_qso_time, Qt::CTRL | Qt::Key_F8},
-                      {&form_.Tutti_loc, Qt::CTRL | Qt::Key_L},
-                      {&form_.Tutti_call, Qt::CTRL | Qt::Key_K},
-                      {&form_.database, Qt::CTRL | Qt::Key_D},
-                      {&form_.CercaDtbIaru, Qt::CTRL | Qt::Key_I},
-                      {&form_.ric_in_quel_locatore, Qt::CTRL | Qt::Key_R},
-                      {&form_.internet, Qt::CTRL | Qt::Key_Q},
-                      {&form_.SEARC_loc, Qt::CTRL | Qt::Key_M},
-                      {&form_.espandi_archivio, Qt::CTRL | Qt::Key_B},
-                      {&form_.stampa_errori, Qt::CTRL | Qt::Key_P}};
-  QStringList told;
-  for (const auto& [button, key] : keys) {
-    SetKey(*button, key);
-    if (told.size() < kTold) {
-      told += QStringLiteral("%1 %2").arg(key.toString(QKeySequence::NativeText),
-                                          ToQString(button->caption).trimmed());
-    }
-  }
-  hint_->setText(told.join(QStringLiteral("   ")));
 }
 
 }  // namespace velmar

@@ -32,6 +32,11 @@ void RowView::BeginWith(int row) {
   scrollTo(model()->index(row, 0), PositionAtTop);
 }
 
+int RowView::HeightOf(int rows) const {
+  constexpr int kRowPadding = 6;
+  return rows * (fontMetrics().height() + kRowPadding) + 2 * frameWidth();
+}
+
 int RowView::TextMargin() const {
   return style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
 }

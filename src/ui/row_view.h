@@ -25,6 +25,9 @@ class RowView : public QListView {
   /// Moves the rows so that `row` is the first one to be seen, or as near as the last one lets it.
   void BeginWith(int row);
 
+  /// The height of so many rows with their frame, in px.
+  int HeightOf(int rows) const;
+
   /// Between the left edge of the viewport and the first character of a row, in px.
   int TextMargin() const;
 

@@ -90,18 +90,88 @@ TEST(CheckWindow, AFinishedCheckLeavesItsRoomToTheNext) {
   fixture.runner.Run([&] {
     form.Frame_Controllo_locatori.visible = true;
     form.Lista_dubbi.Fill({"un dubbio"});
-  });
-  EXPECT_TRUE(shown(form.Frame_Controllo_locatori));
-  EXPECT_FALSE(shown(form.Frame_Log_errori_tempo)) << "no time differs";
-  fixture.runner.Run([&] { form.Frame_unici.visible = true; });
-  EXPECT_TRUE(shown(form.Frame_Controllo_locatori)) << "a doubt is open";
-  fixture.runner.Run([&] {
-    form.Lista_dubbi.Fill({});
     form.Lista_err_orario.Fill({"un orario"});
   });
-  EXPECT_FALSE(shown(form.Frame_Controllo_locatori));
-  EXPECT_TRUE(shown(form.Frame_Log_errori_tempo));
+  EXPECT_TRUE(shown(form.Frame_Controllo_locatori));
+  EXPECT_TRUE(shown(form.Lista_err_orario));
+  EXPECT_FALSE(shown(form.conf_err_time)) << "the doubts come first";
+  fixture.runner.Run([&] { form.Lista_dubbi.Fill({}); });
+  EXPECT_TRUE(shown(form.conf_err_time));
+  EXPECT_FALSE(shown(form.Frame_Controllo_locatori)) << "no doubt is left";
+  fixture.runner.Run([&] {
+    form.Lista_err_orario.Fill({" tempo intercorso: 23 ore  e  55  minuti"});
+    form.Frame_unici.visible = true;
+  });
   EXPECT_TRUE(shown(form.Frame_unici));
+  EXPECT_TRUE(shown(form.Lista_err_orario)) << "the time on the air is told";
+  EXPECT_FALSE(shown(form.conf_err_time)) << "no time differs";
+  QCoreApplication::processEvents();
+  const auto* told = fixture.Find<QWidget>(form.Frame_Log_errori_tempo);
+  EXPECT_LT(told->height(), fixture.Find<QWidget>(form.Frame_unici)->height() / 2);
+  fixture.runner.Run([&] { form.Lista_err_orario.Fill({}); });
+  EXPECT_FALSE(shown(form.Frame_Log_errori_tempo)) << "nothing to tell";
+  fixture.runner.Run([&] { form.messaggio.caption = " tutti gli orari risultano corretti"; });
+  EXPECT_TRUE(shown(form.Frame_Log_errori_tempo));
+}
+
+TEST(CheckWindow, WhatIsNotInALogStandsBesideItsExplanation) {
+  Fixture fixture;
+  CheckForm& form = fixture.form;
+  const auto find = [&](const Control& control) { return fixture.Find<QWidget>(control); };
+  fixture.runner.Run([&] {
+    form.Frame_unici.visible = true;
+    form.Call_unici.Fill({"un unico"});
+    form.Lista_simili.Fill({"un simile"});
+  });
+  EXPECT_TRUE(find(form.error_call_unici)->isVisible());
+  EXPECT_FALSE(find(form.NO_in_log)->isVisible()) << "a similar call is nothing to decide on";
+  std::vector<std::string> rows(40, "IZ8QQQ      123   NOT in log");
+  fixture.runner.Run([&] {
+    form.Call_unici.Fill({});
+    form.Lista_simili.Fill(rows);
+    form.lista_notlog.Fill(rows);
+  });
+  EXPECT_FALSE(find(form.error_call_unici)->isVisible());
+  EXPECT_TRUE(find(form.NO_in_log)->isVisible());
+  auto* items = fixture.Find<RowView>(form.Lista_simili);
+  auto* explanations = fixture.Find<RowView>(form.lista_notlog);
+  items->grab();
+  explanations->grab();
+  constexpr int kMoved = 7;
+  items->verticalScrollBar()->setValue(kMoved);
+  EXPECT_EQ(explanations->verticalScrollBar()->value(), kMoved);
+  explanations->verticalScrollBar()->setValue(0);
+  EXPECT_EQ(items->verticalScrollBar()->value(), 0);
+}
+
+TEST(CheckWindow, TwoLogsTakeThePlaceOfTheQueueUntilTheyAreClosed) {
+  Fixture fixture;
+  CheckForm& form = fixture.form;
+  form.chiudi.on_click = [&] { form.Frame_log.visible = false; };
+  const auto* queue = fixture.Find<RowView>(form.listacall_banda);
+  fixture.runner.Run([&] { form.Frame_log.visible = true; });
+  EXPECT_FALSE(queue->isVisible());
+  EXPECT_TRUE(fixture.Find<RowView>(form.List_log_corrispondente)->isVisible());
+  QTest::keyClick(&fixture.window, Qt::Key_Escape);
+  EXPECT_TRUE(queue->isVisible());
+}
+
+TEST(CheckWindow, TheKeysToldAreThoseOfTheOpenCheck) {
+  Fixture fixture;
+  CheckForm& form = fixture.form;
+  const auto told = [&](const QString& key) {
+    return std::ranges::any_of(fixture.window.findChildren<QLabel*>(),
+                               [&](const QLabel* label) { return label->text().contains(key); });
+  };
+  fixture.runner.Run([&] { form.Frame_Controllo_locatori.visible = true; });
+  EXPECT_TRUE(told("F8 NON è un errore"));
+  EXPECT_FALSE(told("Alt+1"));
+  fixture.runner.Run([&] {
+    form.Frame_Controllo_locatori.visible = false;
+    form.Frame_unici.visible = true;
+  });
+  EXPECT_TRUE(told("Alt+1 Error Call"));
+  EXPECT_FALSE(told("F8 NON è un errore"));
 }
 
 TEST(CheckWindow, TheWideViewHasTheWindowForItself) {
