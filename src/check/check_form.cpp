@@ -33,6 +33,7 @@ CheckForm::CheckForm() {
   conf_err_RST.caption = kReportError;
   vis_err.tip = "Visualizza lista errori già in report"_a;
   NameLookUps("", "");
+  ClearTimes();
   uscita2.visible = false;
   Cancella_log.visible = false;
   Frame_unici.caption = kUniqueTitle;
@@ -90,6 +91,16 @@ void CheckForm::ClearScore() {
        {&evidenzia, &call_in_esame, &qrb_ufficiale, &err_count, &err_qrb, &qrb_finale}) {
     label->caption.clear();
   }
+}
+
+void CheckForm::ClearTimes() {
+  Lista_err_orario.Fill({});
+  for (Label* label : {&messaggio, &Label11, &kmerr}) {
+    label->caption.clear();
+  }
+  Text3.value.clear();
+  Frame_Log_errori_tempo.caption = "    Controllo orari    ";
+  Label25.caption = " Errori di orario";
 }
 
 void CheckForm::HideErrors() {

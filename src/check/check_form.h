@@ -102,7 +102,7 @@ struct CheckForm : CheckOptions {
   Button& Tutti_call = In(Frame_Controllo_locatori, AddButton("Tutti_call", "ric Call"));
 
   // Differing times.
-  Frame& Frame_Log_errori_tempo = AddLabel("Frame_Log_errori_tempo", "    Controllo orari    ");
+  Frame& Frame_Log_errori_tempo = AddLabel("Frame_Log_errori_tempo");
   Label& Label25 = In(Frame_Log_errori_tempo, AddLabel("Label25"));      ///< what the list is of
   Label& messaggio = In(Frame_Log_errori_tempo, AddLabel("messaggio"));  ///< outcome
   Label& Label11 = In(Frame_Log_errori_tempo, AddLabel("Label11"));      ///< titles of the list
@@ -201,6 +201,9 @@ struct CheckForm : CheckOptions {
 
   /// Empties what tells of the call under examination.
   void ClearScore();
+
+  /// Empties what tells of differing times, and has the list be one of times.
+  void ClearTimes();
 
   /// Hides the error list of the call.
   void HideErrors();

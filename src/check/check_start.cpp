@@ -86,6 +86,7 @@ bool CheckStart::Agreed() {
 
 void CheckStart::Prepare() {
   form_.ClearLists();
+  form_.ClearTimes();
   form_.ClearEvidence();
   form_.ClearScore();
   steps_.Reset();

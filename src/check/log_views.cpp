@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "check/call_comparison.h"
+#include "check/check_steps.h"
 #include "check/qso_line.h"
+#include "check/time_differences.h"
 #include "model/lines.h"
 #include "model/store_rows.h"
 #include "model/text.h"
@@ -173,6 +175,16 @@ std::string LogViews::SelectedOther() const {
   return {};
 }
 
+std::string LogViews::SelectedByTime() const {
+  const auto row = form_.Lista_err_orario.ChosenRow();
+  if (!row || Holds(*row, kTimeOnAirMark)) {
+    return {};
+  }
+  const std::string& call = state_.call_in_esame;
+  return std::string(Trim(state_.report_mode ? ReadReportItem(*row, call.size()).other_call
+                                             : ReadTimeItem(*row, call).other_call));
+}
+
 void LogViews::SelectOwnRow(std::string_view call) {
   const auto& rows = form_.List_log_call_esame.items.rows();
   const auto found = std::ranges::find_if(
@@ -297,7 +309,7 @@ void LogViews::cerca_primo_qso_Click() {
 }
 
 void LogViews::cerca_qso_rst_Click() {
-  const std::string other = SelectedOther();
+  const std::string other = SelectedByTime();
   ReadStore();
   Open();
   for (const SommaQso& qso : rows_) {

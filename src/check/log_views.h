@@ -35,6 +35,10 @@ class LogViews {
   /// Shows the log under examination with the QSOs of `other` in it, and the other log.
   void ShowForTimes(std::string_view other);
 
+  /// The other call of the item that is selected among the times, or among the reports in their
+  /// place; empty without one.
+  std::string SelectedByTime() const;
+
   void log_callda_cercare_Click();
   void vis_log_Click();
   void List_log_call_esame_Click();

@@ -124,10 +124,14 @@ void NotInLogCheck::PassReports() {
   form_.Frame_unici.visible = false;
   form_.Frame_unici.caption = CheckForm::kUniqueTitle;
   form_.Frame_Classifica_gene_banda.visible = true;
+  form_.Frame_Log_errori_tempo.caption = "    Controllo rapporti    ";
   form_.Label25.caption = " Errori di RAPPORTO";
-  form_.messaggio.caption = state_.time_errors == 0
-                                ? " Non si trasmettono i progressivi nello VLM. Procedura saltata"
-                                : " i rapporti risultano corretti";
+  form_.messaggio.caption.clear();
+  if (state_.time_errors == 0) {
+    form_.messaggio.caption = " Non si trasmettono i progressivi nello VLM. Procedura saltata";
+  } else if (!steps_.TimesOpen()) {
+    form_.messaggio.caption = " i rapporti risultano corretti";
+  }
   form_.Text3.value = std::to_string(0);
   state_.report_mode = true;
   if (form_.Lista_dubbi.items.rows().empty() && !steps_.TimesOpen() && state_.unique_checked) {

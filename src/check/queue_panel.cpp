@@ -43,6 +43,7 @@ void QueuePanel::Clear() {
   state_.progress = progress;
   form_.listacall_banda.Fill({});
   form_.ClearLists();
+  form_.ClearTimes();
   form_.ClearEvidence();
   form_.ClearScore();
   form_.bandaesame.caption.clear();
@@ -76,7 +77,7 @@ void QueuePanel::LeggiclassificA() {
   Clear();
   const std::string path = session_.workspace.classification(session_.category_month);
   if (Load(path, std::string(NameOf(path)))) {
-    Choose(state_.queue.FirstUnchecked().value_or(0));
+    ChooseToGoOn();
   }
 }
 
@@ -105,7 +106,6 @@ void QueuePanel::Reload(std::string separator) {
   }
   state_.queue.SeparatePositions(std::move(separator));
   form_.listacall_banda.Fill(state_.queue.Shown());
-  Choose(state_.queue.FirstUnchecked().value_or(0));
 }
 
 void QueuePanel::SetRow(std::size_t row, const std::string& text) {
@@ -113,6 +113,10 @@ void QueuePanel::SetRow(std::size_t row, const std::string& text) {
   const int chosen = form_.listacall_banda.selection;
   form_.listacall_banda.Fill(state_.queue.Shown());
   form_.listacall_banda.selection = chosen;
+}
+
+void QueuePanel::ChooseToGoOn() {
+  Choose(state_.queue.FirstUnchecked().value_or(0));
 }
 
 void QueuePanel::Choose(std::size_t row) {

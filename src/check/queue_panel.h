@@ -41,6 +41,9 @@ class QueuePanel {
   /// Chooses the first log whose call holds the text that was typed.
   void vai_a_un_call_Click();
 
+  /// Chooses the first log that waits for its check, or the header.
+  void ChooseToGoOn();
+
   // The wide view.
   void Visualizza_solo_classifica_Click();
   void LeaveWideView();
@@ -48,7 +51,8 @@ class QueuePanel {
   /// Reads the classification again into the wide view; false where it is none.
   bool ShowWideRows();
 
-  /// Reads the file again after it was written, with its positions behind `separator`.
+  /// Reads the file again after it was written, with its positions behind `separator`. No row is
+  /// chosen then.
   void Reload(std::string separator);
 
   /// Another text of a row of the queue, counted from 0.

@@ -53,7 +53,7 @@ void ScoreUpdate::aggiorna_punt_class_Click() {
   }
   form_.ClearLists();
   form_.Frame_unici.visible = false;
-  queue_.SetRow(state_.indice_riga, std::string(Left(form_.evidenzia.caption, kStoredRow)));
+  PutRow();
   files_.WriteAll(Join(state_.classification_path, "_scorta"), state_.queue.FileText(kStoredRow));
   report_.AppendTotals();
   state_.progress.classifica_da_salvare = true;
@@ -68,6 +68,7 @@ void ScoreUpdate::ordina_Click() {
   files_.WriteAll(state_.classification_path, state_.queue.FileText(kStoredRow));
   WriteSorted(kMostByScore, [](std::string_view row) { return Val(Cut(row, kScoreKey)); });
   queue_.Reload("          (");
+  queue_.ChooseToGoOn();
   state_.progress.classifica_da_salvare = false;
   state_.progress.controllo_in_corso = false;
   state_.unique_checked = false;
@@ -91,6 +92,27 @@ void ScoreUpdate::riordina_Click() {
   WriteSorted(kMostByPercentage,
               [](std::string_view row) { return Val(Cut(row, kPercentageKey)); });
   queue_.Reload("  ");
+  FollowRow();
+}
+
+/// Finds the call under examination where the rows have changed their places. A result that is not
+/// saved goes with it.
+void ScoreUpdate::FollowRow() {
+  if (form_.evidenzia.caption.empty()) {
+    return;
+  }
+  for (std::size_t row = 1; row < state_.queue.size(); ++row) {
+    if (ClassificaRow(state_.queue.Row(row)).Call() == state_.call_in_esame) {
+      state_.indice_riga = row;
+    }
+  }
+  if (state_.progress.classifica_da_salvare) {
+    PutRow();
+  }
+}
+
+void ScoreUpdate::PutRow() {
+  queue_.SetRow(state_.indice_riga, std::string(Left(form_.evidenzia.caption, kStoredRow)));
 }
 
 /// Writes the rows of the file again in the order of their keys, behind the header.
@@ -101,8 +123,14 @@ void ScoreUpdate::WriteSorted(std::size_t most,
   std::vector<double> keys;
   LineReader reader(text);
   std::string_view header;
-  reader.Next(header);
   for (std::string_view row; reader.Next(row);) {
+    if (row.empty()) {
+      continue;
+    }
+    if (header.empty()) {
+      header = row;
+      continue;
+    }
     if (rows.size() == most) {
       throw RunTimeError(ErrorNumber::kSubscript, "the rows to be sorted");
     }

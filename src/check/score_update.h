@@ -55,6 +55,8 @@ class ScoreUpdate {
 
  private:
   void WriteSorted(std::size_t most, const std::function<double(std::string_view row)>& key);
+  void FollowRow();
+  void PutRow();
   void Swap(std::string_view from, std::string_view to);
 
   ContestSession& session_;

@@ -16,16 +16,20 @@ constexpr std::size_t kReportNumber = 3;  ///< characters of a number that are t
 }  // namespace
 
 void TimeCheck::control_time_Click() {
-  if (!state_.call_in_esame.empty()) {
+  if (CheckRuns()) {
     Build();
     steps_.Advance();
   }
 }
 
+/// Whether there is a score that a decision could lower. A log that is only looked at has none, nor
+/// has one whose result is saved.
+bool TimeCheck::CheckRuns() const {
+  return !form_.evidenzia.caption.empty();
+}
+
 void TimeCheck::Build() {
-  form_.Lista_err_orario.Fill({});
-  form_.kmerr.caption.clear();
-  form_.messaggio.caption.clear();
+  form_.ClearTimes();
   state_.report_mode = false;
   state_.time_errors = 0;
   const auto& rows = views_.ReadStore();
@@ -37,7 +41,6 @@ void TimeCheck::Build() {
   const TimeDifferences differences = FindTimeDifferences(rows, state_.call_in_esame);
   state_.time_errors = differences.items.size();
   form_.Label11.caption = TimeListTitles(state_.call_in_esame.size());
-  form_.Label25.caption = " Errori di orario";
   form_.Lista_err_orario.Fill(differences.items);
   ShowOutcome(differences);
   if (differences.items.empty()) {
@@ -96,42 +99,44 @@ void TimeCheck::RecordTimeOnAir(const std::vector<SommaQso>& rows, std::string_v
       Join(" tempo ", kTimeOnAirMark, ": ", time.hours, " ore  e  ", time.minutes, "  minuti"));
 }
 
-std::optional<TimeItem> TimeCheck::Selected() const {
+std::optional<std::string> TimeCheck::SelectedRow() const {
   const auto row = form_.Lista_err_orario.ChosenRow();
-  if (!row || Holds(*row, kTimeOnAirMark)) {
-    return std::nullopt;
-  }
-  return ReadTimeItem(*row, state_.call_in_esame);
+  return row && !Holds(*row, kTimeOnAirMark) ? row : std::nullopt;
 }
 
 void TimeCheck::Lista_err_orario_Click() {
-  const auto item = Selected();
-  if (!item) {
+  const auto row = SelectedRow();
+  if (!row) {
     manager_.Show(
         {.lines = {"Devi selezionare il qso da visualizzare"}, .title = "Visualizza LOG"});
     return;
   }
-  form_.kmerr.caption = item->points;
-  views_.ShowForTimes(Trim(item->other_call));
+  const std::string_view item = state_.report_mode ? RTrim(*row) : *row;
+  form_.kmerr.caption = item.substr(item.rfind(' ') + 1);
+  views_.ShowForTimes(views_.SelectedByTime());
 }
 
 void TimeCheck::conf_err_time_Click() {
-  const auto item = Selected();
-  if (!item || report_.AlreadyListed(std::string(RTrim(item->other_call)))) {
+  const auto row = SelectedRow();
+  if (!row) {
     return;
   }
-  report_.Penalise({.call = item->other_call,
-                    .ordinal = item->ordinal,
+  const TimeItem item = ReadTimeItem(*row, state_.call_in_esame);
+  if (report_.AlreadyListed(std::string(RTrim(item.other_call)))) {
+    return;
+  }
+  report_.Penalise({.call = item.other_call,
+                    .ordinal = item.ordinal,
                     .tag = error_tag::kTime,
-                    .wrong = item->own_time,
-                    .right = Join(item->other_time, "  ", item->difference),
-                    .points = item->points});
+                    .wrong = item.own_time,
+                    .right = Join(item.other_time, "  ", item.difference),
+                    .points = item.points});
   RemoveSelected();
 }
 
 void TimeCheck::conf_err_RST_Click() {
-  const auto row = form_.Lista_err_orario.ChosenRow();
-  if (!row || Holds(*row, kTimeOnAirMark)) {
+  const auto row = SelectedRow();
+  if (!row) {
     return;
   }
   const ReportItem item = ReadReportItem(*row, state_.call_in_esame.size());
@@ -149,7 +154,7 @@ void TimeCheck::conf_err_RST_Click() {
 }
 
 void TimeCheck::convalida_qso_time_Click() {
-  if (Selected()) {
+  if (SelectedRow()) {
     RemoveSelected();
   }
 }
@@ -163,14 +168,23 @@ void TimeCheck::RemoveSelected() {
   list.selection = left == 0 ? -1 : list.selection % left;
   if (left == 0) {
     form_.kmerr.caption.clear();
-    if (!state_.report_mode) {
-      RecordTimeOnAir(views_.ReadStore(),
-                      "  controlla se il nome del call da cancellare e barrato mentre il nome del "
-                      "file no.");
-    }
-    steps_.Advance();
-  } else if (Selected()) {
+    GoOn();
+  } else if (SelectedRow()) {
     Lista_err_orario_Click();
+  }
+}
+
+/// Nothing is open in the list any more.
+void TimeCheck::GoOn() {
+  if (!state_.report_mode) {
+    RecordTimeOnAir(
+        views_.ReadStore(),
+        "  controlla se il nome del call da cancellare e barrato mentre il nome del file no.");
+  }
+  if (state_.report_mode && state_.unique_checked) {
+    steps_.OpenUpdate();
+  } else {
+    steps_.Advance();
   }
 }
 

@@ -37,6 +37,7 @@ class TimeCheck {
   /// Lists the QSOs whose time differs. A time in the store that is no number ends the program.
   void Build();
 
+  /// The same for the call whose check runs; without one nothing happens.
   void control_time_Click();
   void Lista_err_orario_Click();
 
@@ -46,11 +47,13 @@ class TimeCheck {
   void convalida_qso_time_Click();
 
  private:
-  std::optional<TimeItem> Selected() const;
+  bool CheckRuns() const;
+  std::optional<std::string> SelectedRow() const;
   void EndOnBrokenTime(const SommaQso& row, std::size_t character);
   void ShowOutcome(const TimeDifferences& differences);
   void RecordTimeOnAir(const std::vector<SommaQso>& rows, std::string_view hint);
   void RemoveSelected();
+  void GoOn();
 
   ContestSession& session_;
   FileSystem& files_;

@@ -17,7 +17,9 @@ constexpr Column kHour{1, 2};
 constexpr Column kMinute{3, 2};
 constexpr std::size_t kOrdinalWidth = 3;
 
-/// The columns of an item behind the call, which has `length` characters.
+constexpr std::size_t kLongestCall = 10;  ///< that shifts what stands behind it
+
+/// The columns of an item behind the call, which takes `length` of them.
 struct ItemColumns {
   explicit ItemColumns(std::size_t length)
       : own_time{6 + length, 4},
@@ -104,14 +106,14 @@ TimeDifferences FindTimeDifferences(const std::vector<SommaQso>& rows, std::stri
 std::string TimeItemRow(const TimeItem& item, std::string_view call) {
   std::string ordinal = Join("000", item.ordinal);
   ordinal = Right(ordinal, kOrdinalWidth);
-  const std::string row =
-      Join(ordinal, " ", call, " ", Pad(item.own_time, 4), " ", Pad(item.other_time, 4), " ",
-           Pad(item.other_call, kCallWidth), Pad(Join("*", item.difference), 6), item.points);
+  const std::string row = Join(ordinal, " ", Left(call, kLongestCall), " ", Pad(item.own_time, 4),
+                               " ", Pad(item.other_time, 4), " ", Pad(item.other_call, kCallWidth),
+                               Pad(Join("*", item.difference), 6), item.points);
   return std::string(Left(row, kItemWidth));
 }
 
 TimeItem ReadTimeItem(std::string_view row, std::string_view call) {
-  const ItemColumns columns(call.size());
+  const ItemColumns columns(std::min(call.size(), kLongestCall));
   const std::size_t blank = row.rfind(' ');
   return {.ordinal = std::string(Left(row, kOrdinalWidth)),
           .own_time = std::string(Cut(row, columns.own_time)),
@@ -122,9 +124,10 @@ TimeItem ReadTimeItem(std::string_view row, std::string_view call) {
 }
 
 ReportItem ReadReportItem(std::string_view row, std::size_t call_length) {
-  const auto cut = [row, call_length](std::size_t start, std::size_t width) {
+  const std::size_t length = std::min(call_length, kLongestCall);
+  const auto cut = [row, length](std::size_t start, std::size_t width) {
     constexpr std::size_t kShortestCall = 4;  // the columns are those of such a call
-    return std::string(Cut(row, {start + call_length - kShortestCall, width}));
+    return std::string(Cut(row, {start + length - kShortestCall, width}));
   };
   return {.ordinal = std::string(Left(row, kOrdinalWidth)),
           .sent = cut(10, 6),

@@ -33,7 +33,7 @@ struct TimeDifferences {
 TimeDifferences FindTimeDifferences(const std::vector<SommaQso>& rows, std::string_view call);
 
 /// A QSO with differing times, as the list has it. Where things stand depends on the length of the
-/// call under examination.
+/// call under examination, of which ten characters count.
 struct TimeItem {
   std::string ordinal;     ///< of the QSO in the log, the last three digits
   std::string own_time;    ///< HHMM

@@ -22,6 +22,7 @@ struct FiledQso {
   std::string call;
   std::string locator;
   std::string points = "100";
+  std::string time = "1005";  ///< HHMM
 };
 
 /// A log as it lies in the store; its best DX QSO is that of `dx_call`.
@@ -52,12 +53,21 @@ struct DeskFixture {
   DeskFixture& Filed(const FiledLog& log) {
     std::string library;
     std::string total;
+    std::string somma;
+    std::string slx;
+    Names rows;
     for (const FiledQso& qso : log.qsos) {
+      rows.push_back(QsoOf(qso));
+      AddLine(somma, SommaQsoRow(rows.back(), kCategory, log.locator, log.call));
+      AddLine(slx, SommaSlxRow(log.call, rows.back()));
       library += LibreriaRow(log.call, qso.call, qso.locator, qso.points).value_or("") + "\r\n";
       total +=
           LibreriaTotaleRow(log.call, qso.call, qso.locator, kCategory, qso.points).value_or("") +
           "\r\n";
     }
+    store.Append(StoreFile::kTempi, kCategory, "");
+    store.Append(StoreFile::kSommaSlx, kCategory, slx);
+    store.Append(StoreFile::kSommaQso, kCategory, somma);
     store.Append(StoreFile::kLibreria, kCategory, library);
     store.Append(StoreFile::kLibreriaTotale, kCategory, total);
     store.Append(StoreFile::kPartecipanti, kCategory,
@@ -73,8 +83,22 @@ struct DeskFixture {
                                                     .dx_distance = "100",
                                                     .points = log.points}),
                                  kCategory, session.category_month);
+    store.Append(StoreFile::kModi, kCategory,
+                 Join(ModoRow(log.call, log.locator, static_cast<int>(rows.size()), 0), kLineEnd));
+    workspace.With(FiledPath(log.call), LogText(log.call, log.locator, rows));
     store.AppendToErrorList(log.call, kCategory, session.category_month, Head(log));
     return *this;
+  }
+
+  /// The row of a QSO in its log.
+  static std::string QsoOf(const FiledQso& qso) {
+    return Join("250119;", qso.time, ";", qso.call, ";1;59;001;59;012;;", qso.locator, ";",
+                qso.points, ";;N;;");
+  }
+
+  /// Where a log is filed.
+  static std::string FiledPath(std::string_view call) {
+    return Join("Trofeo_Velmar/2IT/", LogName(kCategory, FiledName(call)));
   }
 
   static std::string Head(const FiledLog& log) {
