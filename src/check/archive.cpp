@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "check/qso_line.h"
+#include "check/unique_evidence.h"
 #include "model/call_book.h"
 #include "model/store_rows.h"
 #include "model/text.h"
@@ -28,6 +29,7 @@ Archive::Archive(ContestSession& session, FileSystem& files, Manager& manager, W
       screen_(screen),
       desk_(form),
       state_(state) {
+  browser_.Bar1.visible = false;
   notices_.cmdOK.on_click = [this] { screen_.Hide(notices_); };
 }
 
@@ -48,7 +50,9 @@ void Archive::LoadBook() {
   }
   browser_.Bar1.maximum = records->size();
   browser_.Bar1.value = std::to_string(records->size());
+  browser_.Bar1.visible = true;
   manager_.Progress(records->size(), records->size());
+  browser_.Bar1.visible = false;
   browser_.lista_archivio.Fill(*records);
   browser_.tot_in_archivio.caption = std::to_string(records->size());
   if (!records->empty()) {
@@ -144,6 +148,11 @@ void Archive::Tutti_call_Click() {
     if (Holds(row, item->call)) {
       SuggestFrom(row, "nel log si è dichiarato: "_a);
     }
+  }
+  if (desk_.lista_notlog.items.rows().empty()) {  // else the list holds other rows
+    desk_.Lista_simili.Fill(FindSimilarCalls(
+        state_.qsos.others, session_.archive_missing ? nullptr : &session_.call_book,
+        {.call = item->call, .locator = item->locator}));
   }
   Show(FindCallsByEnd(session_.call_book, item->call));
 }

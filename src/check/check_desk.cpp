@@ -49,6 +49,15 @@ void CheckDesk::On(Control& control, int step, std::function<void()> event) {
   control.on_click = [this, step, event = std::move(event)] { trap_.Procedure(step, event); };
 }
 
+/// Runs the start of a check. One that fails leaves nothing to decide on.
+void CheckDesk::Start(int step, const std::function<void()>& start) {
+  if (!trap_.Procedure(step, start)) {
+    form_.Bar1.visible = false;
+    form_.ClearLists();
+    steps_.Reset();
+  }
+}
+
 void CheckDesk::JoinQueue() {
   On(form_.Option3, 10, [this] { queue_.LeggiclassificA(); });
   On(form_.primo_carico, 11, [this] { queue_.primo_carico_Click(); });
@@ -62,13 +71,9 @@ void CheckDesk::JoinQueue() {
     }
   };
   form_.listacall_banda.on_double_click = [this] {
-    trap_.Procedure(20, [this] { start_.listacall_banda_DblClick(); });
-    form_.Bar1.visible = false;  // a start that failed leaves it
+    Start(20, [this] { start_.listacall_banda_DblClick(); });
   };
-  form_.prossimo.on_click = [this] {
-    trap_.Procedure(21, [this] { start_.prossimo_Click(); });
-    form_.Bar1.visible = false;
-  };
+  form_.prossimo.on_click = [this] { Start(21, [this] { start_.prossimo_Click(); }); };
   On(form_.Visualizza_solo_classifica, 16, [this] { queue_.Visualizza_solo_classifica_Click(); });
   On(form_.esci_da_cla, 17, [this] { removal_.esci_da_cla_Click(); });
   On(form_.uscita2, 17, [this] { removal_.esci_da_cla_Click(); });
@@ -117,6 +122,7 @@ void CheckDesk::JoinUnique() {
   On(form_.Unici_in_attesa_conf, 98, [this] { unique_.Unici_in_attesa_conf_Click(); });
   On(form_.not_button, 100, [this] { not_in_log_.not_Click(); });
   On(form_.Lista_simili, 101, [this] { not_in_log_.Lista_simili_Click(); });
+  On(form_.lista_notlog, 104, [this] { not_in_log_.lista_notlog_Click(); });
   On(form_.NO_in_log, 102, [this] { not_in_log_.NO_in_log_Click(); });
   On(form_.no_errore, 103, [this] { not_in_log_.no_errore_Click(); });
 }

@@ -50,6 +50,7 @@ class CheckDesk {
  private:
   void On(Control& control, int step, std::function<void()> event);
   void ReadParticipants();
+  void Start(int step, const std::function<void()>& start);
   void JoinQueue();
   void JoinChecks();
   void JoinTimes();

@@ -34,6 +34,7 @@ CheckForm::CheckForm() {
   vis_err.tip = "Visualizza lista errori già in report"_a;
   NameLookUps("", "");
   ClearTimes();
+  marca_unico.tip = "Il punteggio non verrà decurtato dal totale."_a;
   uscita2.visible = false;
   Cancella_log.visible = false;
   Frame_unici.caption = kUniqueTitle;
@@ -69,7 +70,7 @@ std::array<Label*, 6> CheckForm::AddSteps() {
 
 void CheckForm::NameLookUps(std::string_view call, std::string_view locator) {
   constexpr std::size_t kSquare = 4;
-  internet.caption = Join("cerca ", call, " su QRZ");
+  internet.caption = Join("cerca ", call, call.empty() ? "su QRZ" : " su QRZ");
   SEARC_loc.caption = Join("Mappa ", locator);
   ric_in_quel_locatore.caption = Join("cerca in ", Left(locator, kSquare));
 }
@@ -84,6 +85,19 @@ void CheckForm::ClearEvidence() {
   NameLookUps("", "");
   conferma_errore.colour.reset();
   QSO_ok.colour.reset();
+}
+
+void CheckForm::ClearUniqueHints() {
+  for (Label* label : {&messaggio_unici, &messaggio_locatore, &Label12, &troppi_numeri, &pre_senze,
+                       &nome_call, &Prob_call_corretto, &call_scorretto}) {
+    label->caption.clear();
+  }
+  messaggio_unici.colour.reset();
+  Avviso.visible = false;
+  for (Button* button : {&ok_call_unici, &marca_unico, &CercaDtbIaru, &NO_in_log, &no_errore}) {
+    button->colour.reset();
+  }
+  Frame_unici.caption = kUniqueTitle;
 }
 
 void CheckForm::ClearScore() {

@@ -139,6 +139,10 @@ struct CheckForm : CheckOptions {
   List& Lista_simili =
       In(Frame_unici, AddList("Lista_simili", "Log         Call        Loc.   QRB"));
   List& lista_notlog = In(Frame_unici, AddList("lista_notlog"));
+  Label& regola_notlog =
+      In(Frame_unici, AddLabel("regola_notlog",
+                               " ATTENZIONE.    Quando il corrispondente sbaglia a scrivere , E' "
+                               "SEMPRE  un \"NOT IN LOG\" . "));
   Button& NO_in_log = In(Frame_unici, AddButton("NO_in_log", "NOT in log"));
   Button& no_errore = In(Frame_unici, AddButton("no_errore", "NO error"));
   List& List2_unici = In(Frame_unici, AddList("List2_unici", "Loc.      Call        Log"));
@@ -154,7 +158,9 @@ struct CheckForm : CheckOptions {
   Button& cerca_qso = In(Frame_unici, AddButton("cerca_qso", "cerca qso"));
   Button& Controlla_estero = In(Frame_unici, AddButton("Controlla_estero", "Cerca call estero"));
   Button& nasondi = In(Frame_unici, AddButton("nasondi", "SALTA"));
-  Label& Attendi_calcolo = AddLabel("Attendi_calcolo", "ATTENDI....");
+  Frame& Attendi_calcolo = AddLabel("Attendi_calcolo", "ATTENDI....");  ///< seen during long work
+  Label& calcolo_in_corso =
+      In(Attendi_calcolo, AddLabel("calcolo_in_corso", "Calcolo in corso....."));
 
   // The log under examination beside another one.
   Frame& Frame_log = AddLabel("Frame_log", "Log");
@@ -198,6 +204,9 @@ struct CheckForm : CheckOptions {
 
   /// Empties what tells of the selected item.
   void ClearEvidence();
+
+  /// Empties what tells of the selected unique call, and takes the advice back.
+  void ClearUniqueHints();
 
   /// Empties what tells of the call under examination.
   void ClearScore();

@@ -88,6 +88,7 @@ void CheckStart::Prepare() {
   form_.ClearLists();
   form_.ClearTimes();
   form_.ClearEvidence();
+  form_.ClearUniqueHints();
   form_.ClearScore();
   steps_.Reset();
   state_.unici_saltati = false;

@@ -8,6 +8,7 @@ void CheckSteps::Reset() {
   CloseButtons();
   times_left_out_ = false;
   unique_left_out_ = false;
+  unique_done_ = false;
   Show(CheckStep::kNone);
 }
 
@@ -24,18 +25,23 @@ bool CheckSteps::TimesOpen() const {
 }
 
 void CheckSteps::Advance() {
-  if (!form_.Lista_dubbi.items.rows().empty()) {
-    Show(CheckStep::kLocators);
-  } else if (TimesOpen()) {
-    Show(CheckStep::kTimes);
+  const bool doubts = !form_.Lista_dubbi.items.rows().empty();
+  if (doubts || TimesOpen()) {
+    CloseButtons();  // they may have led on before the times were looked at again
+    Show(doubts ? CheckStep::kLocators : CheckStep::kTimes);
+    return;
+  }
+  times_left_out_ = form_.Lista_err_orario.items.rows().empty();
+  Offer(form_.unici);
+  if (unique_done_) {
+    OpenUpdate();
   } else {
-    times_left_out_ = form_.Lista_err_orario.items.rows().empty();
-    Offer(form_.unici);
     Show(CheckStep::kUnique);
   }
 }
 
 void CheckSteps::OpenUnique() {
+  unique_done_ = false;
   form_.unici.colour.reset();
   form_.aggiorna_punt_class.visible = true;
   Show(CheckStep::kUnique);
@@ -46,9 +52,11 @@ void CheckSteps::OpenNotInLog() {
 }
 
 void CheckSteps::OpenUpdate() {
+  unique_done_ = true;
   form_.unici.colour.reset();
   form_.aggiorna_punt_class.visible = true;
   Offer(form_.aggiorna_punt_class);
+  form_.focus = &form_.aggiorna_punt_class;
   Show(CheckStep::kUpdate);
 }
 
@@ -58,9 +66,9 @@ void CheckSteps::SkipToUpdate() {
 }
 
 void CheckSteps::OpenSave() {
-  form_.aggiorna_punt_class.colour.reset();
-  form_.aggiorna_punt_class.enabled = false;
+  CloseButtons();
   Offer(form_.ordina);
+  form_.focus = &form_.ordina;
   Show(CheckStep::kUpdate);
 }
 

@@ -50,6 +50,7 @@ class CheckSteps {
   void Show(CheckStep open);
 
   CheckForm& form_;
+  bool unique_done_ = false;  ///< and what is not in a log
   bool times_left_out_ = false;
   bool unique_left_out_ = false;
 };

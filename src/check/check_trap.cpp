@@ -7,13 +7,15 @@
 
 namespace velmar {
 
-void CheckTrap::Procedure(int step, const std::function<void()>& procedure) {
+bool CheckTrap::Procedure(int step, const std::function<void()>& procedure) {
   try {
     procedure();
+    return true;
   } catch (const RunTimeError& error) {
     manager_.Show(
         FailureBox(error, step,
                    Join(" Modulo controlli   Contatta l' autore del software_", VersionDotted())));
+    return false;
   }
 }
 

@@ -11,9 +11,9 @@ class CheckTrap {
  public:
   explicit CheckTrap(Manager& manager) : manager_(manager) {}
 
-  /// Runs a procedure; an error that leaves it is told and ends it. `step` is the number that the
-  /// manager reads.
-  void Procedure(int step, const std::function<void()>& procedure);
+  /// Runs a procedure; an error that leaves it is told and ends it, and the result is false. `step`
+  /// is the number that the manager reads.
+  bool Procedure(int step, const std::function<void()>& procedure);
 
  private:
   Manager& manager_;

@@ -287,15 +287,8 @@ void LocatorCheck::GoOn() {
   }
 }
 
-/// Takes the selected doubt off the list and selects the one behind it, or the first.
 void LocatorCheck::RemoveSelected() {
-  List& list = form_.Lista_dubbi;
-  list.items.RemoveAt(static_cast<std::size_t>(list.selection));
-  const auto left = static_cast<int>(list.items.rows().size());
-  form_.N_dubbi.caption = std::to_string(left);
-  if (list.selection >= left) {
-    list.selection = left == 0 ? -1 : 0;
-  }
+  form_.N_dubbi.caption = std::to_string(form_.Lista_dubbi.RemoveChosen());
 }
 
 void LocatorCheck::Settle() {

@@ -31,7 +31,18 @@ std::string OtherRow(const SommaQso& qso) {
 
 /// A row of the other log with what a test says of it.
 std::string GradedRow(const SommaQso& qso, std::string_view text) {
-  return Join(qso.owner, " ", qso.time, ";", Pad(qso.Start(kShortCut), kShortWidth), text);
+  const std::string_view start = qso.Start(kShortCut);
+  return Join(qso.owner, " ", qso.time, ";", Pad(start, std::max(start.size(), kShortWidth)), text);
+}
+
+/// The worked call of a row that was listed; empty where the row tells something else.
+std::string_view ListedCall(std::string_view row) {
+  std::string_view rest = row;
+  for (int field = 0; field < 2; ++field) {
+    const std::size_t end = rest.find(';');
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+  }
+  return Trim(rest.substr(0, rest.find(';')));
 }
 
 }  // namespace
@@ -44,6 +55,7 @@ const std::vector<SommaQso>& LogViews::ReadStore() {
 }
 
 void LogViews::Open() {
+  row_missing_ = false;
   form_.Frame_log.visible = true;
   form_.List_log_call_esame.Fill({});
   form_.List_log_corrispondente.Fill({});
@@ -104,7 +116,7 @@ void LogViews::ShowBoth(std::string_view other) {
   form_.List_log_corrispondente.Fill(std::move(rows));
 }
 
-void LogViews::ShowLogOf(std::string_view other) {
+void LogViews::ShowLogOf(std::string_view other, std::string_view heading) {
   std::vector<std::string> rows;
   for (const SommaQso& qso : rows_) {
     if (qso.owner == other) {
@@ -115,6 +127,8 @@ void LogViews::ShowLogOf(std::string_view other) {
     rows = {"  LOG non VISUALIZZABILE in questa finestra",
             Join(" il log di ", other, "  partecipa in altra categoria"),
             "                 (oppure non è pervenuto)"_a};
+  } else if (!heading.empty()) {
+    rows.emplace(rows.begin(), heading);
   }
   form_.List_log_corrispondente.Fill(std::move(rows));
 }
@@ -145,12 +159,7 @@ std::string LogViews::WorkedCallOfChosenRow() const {
   const auto& rows = form_.List_log_call_esame.items.rows();
   const auto row = form_.List_log_call_esame.ChosenRow();
   const std::string text = row ? *row : (rows.empty() ? std::string() : rows.front());
-  std::string_view rest = text;
-  for (int field = 0; field < 2; ++field) {
-    const std::size_t end = rest.find(';');
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-  }
-  return Replaced(Trim(rest.substr(0, rest.find(';'))), '_', '/');
+  return Replaced(ListedCall(text), '_', '/');
 }
 
 void LogViews::List_log_call_esame_Click() {
@@ -158,6 +167,7 @@ void LogViews::List_log_call_esame_Click() {
   if (other.empty()) {
     return;
   }
+  row_missing_ = false;
   ReadStore();
   ShowLogOf(other);
   form_.cerca_qso2.caption =
@@ -166,8 +176,11 @@ void LogViews::List_log_call_esame_Click() {
 
 /// The other call of the item that is selected; empty without one.
 std::string LogViews::SelectedOther() const {
-  if (const auto row = form_.Lista_simili.ChosenRow()) {
-    return std::string(Trim(Left(*row, kCallWidth)));
+  // The list of what is not in a log also shows similar calls, which stand without an explanation.
+  const auto items = static_cast<int>(form_.lista_notlog.items.rows().size());
+  const auto item = form_.Lista_simili.ChosenRow();
+  if (item && form_.Lista_simili.selection < items) {
+    return std::string(Trim(Left(*item, kCallWidth)));
   }
   if (const auto row = form_.Call_unici.ChosenRow()) {
     return std::string(Trim(Cut(*row, qso_line::kCall)));
@@ -188,7 +201,8 @@ std::string LogViews::SelectedByTime() const {
 void LogViews::SelectOwnRow(std::string_view call) {
   const auto& rows = form_.List_log_call_esame.items.rows();
   const auto found = std::ranges::find_if(
-      rows, [call](const std::string& row) { return Holds(row, Join(";", call, ";")); });
+      // The item has no more than twelve characters of the call.
+      rows, [call](const std::string& row) { return Left(ListedCall(row), kCallWidth) == call; });
   form_.List_log_call_esame.selection =
       found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
 }
@@ -204,13 +218,17 @@ void LogViews::vedi_log2_Click() {
   ListOwnLog("");
   SelectOwnRow(other);
   form_.cerca_qso2.caption = Join("Cerca il qso di ", state_.call_in_esame, " nel log di ", other);
-  if (form_.List_log_call_esame.selection < 0) {
-    form_.List_log_corrispondente.Fill(
-        {Join("  Il qso NON esiste sul log di ", state_.call_in_esame), "",
-         "      questo è un problema del programma."_a, ""});
+  row_missing_ = form_.List_log_call_esame.selection < 0;
+  if (row_missing_) {
+    ShowMissingRow();
     return;
   }
-  Remark(SearchSimilar(other), other);
+  Remark(SearchSimilar(WorkedCallOfChosenRow()), other);
+}
+
+void LogViews::ShowMissingRow() {
+  form_.List_log_corrispondente.Fill({Join("  Il qso NON esiste sul log di ", state_.call_in_esame),
+                                      "", "      questo è un problema del programma."_a, ""});
 }
 
 void LogViews::Remark(const Grades& grades, std::string_view other) {
@@ -235,7 +253,9 @@ void LogViews::Remark(const Grades& grades, std::string_view other) {
 
 void LogViews::cerca_qso2_Click() {
   const std::string other = WorkedCallOfChosenRow();
-  if (!other.empty()) {
+  if (row_missing_) {
+    ShowMissingRow();
+  } else if (!other.empty()) {
     ReadStore();
     SearchSimilar(other);
   }
@@ -279,7 +299,11 @@ LogViews::Grades LogViews::SearchSimilar(std::string_view other) {
     }
   }
   form_.Label_info_errati.visible = !shown.empty();
-  form_.List_log_corrispondente.Fill(std::move(shown));
+  if (shown.empty()) {
+    ShowLogOf(other, Join(" Il qso NON esiste sul log di ", other));
+  } else {
+    form_.List_log_corrispondente.Fill(std::move(shown));
+  }
   return grades;
 }
 
@@ -294,7 +318,13 @@ void LogViews::cerca_qso_Click() {
 }
 
 void LogViews::cerca_primo_qso_Click() {
-  const std::string other = SelectedOther();
+  std::string other = SelectedOther();
+  if (other.empty()) {
+    other = WorkedCallOfChosenRow();
+  }
+  if (other.empty()) {
+    return;
+  }
   std::vector<std::string> kept;
   for (const std::string& row : form_.List_log_call_esame.items.rows()) {
     if (Holds(row, other) && kept.size() < kMostShown) {

@@ -29,8 +29,9 @@ class LogViews {
   /// Shows the QSOs of both logs with each other.
   void ShowBoth(std::string_view other);
 
-  /// Shows the whole log of another station beside the one under examination.
-  void ShowLogOf(std::string_view other);
+  /// Shows the whole log of another station beside the one under examination, under a heading if
+  /// there is one. Without a log of it in this category, that is told.
+  void ShowLogOf(std::string_view other, std::string_view heading = "");
 
   /// Shows the log under examination with the QSOs of `other` in it, and the other log.
   void ShowForTimes(std::string_view other);
@@ -63,6 +64,7 @@ class LogViews {
   std::string SelectedOther() const;
   void SelectOwnRow(std::string_view call);
   Grades SearchSimilar(std::string_view other);
+  void ShowMissingRow();
   void Remark(const Grades& grades, std::string_view other);
 
   ContestSession& session_;
@@ -72,6 +74,7 @@ class LogViews {
   CheckState& state_;
   std::string text_;  ///< that the rows point into
   std::vector<SommaQso> rows_;
+  bool row_missing_ = false;  ///< the log under examination lacks the QSO that was looked for
 };
 
 }  // namespace velmar

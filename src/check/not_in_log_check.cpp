@@ -20,26 +20,33 @@ void NotInLogCheck::not_Click() {
   if (state_.call_in_esame.empty()) {
     return;
   }
-  form_.Lista_simili.Fill({});
-  form_.lista_notlog.Fill({});
   if (form_.NOT_IN_LOG.checked) {
-    form_.ric_notinlog.caption = "NOT in LOG ricerca in corso....";
     Search();
-    form_.ric_notinlog.caption.clear();
   }
-  if (form_.Lista_simili.items.rows().empty()) {
+  GoOn();
+}
+
+/// Offers what comes next: an open item of this list, one of the unique calls, or the reports.
+void NotInLogCheck::GoOn() {
+  if (!form_.lista_notlog.items.rows().empty()) {
+    steps_.OpenNotInLog();
+  } else if (form_.Call_unici.items.rows().empty()) {
     PassReports();
   } else {
-    steps_.OpenNotInLog();
+    form_.Frame_unici.caption = CheckForm::kUniqueTitle;
   }
 }
 
 void NotInLogCheck::Search() {
-  form_.Frame_unici.caption = " NOT in LOG  ";
-  form_.no_errore.caption = "NO error";
   if (state_.qsos.log.size() > kMostQsos) {
     throw RunTimeError(ErrorNumber::kSubscript, "the QSOs of a log");
   }
+  form_.Lista_simili.Fill({});
+  form_.lista_notlog.Fill({});
+  form_.Frame_unici.caption = " NOT in LOG  ";
+  form_.no_errore.caption = "NO error";
+  form_.ric_notinlog.caption = "NOT in LOG ricerca in corso....";
+  manager_.Progress(0, 1);  // so that the windows show it
   const auto participants = store_.Participants();
   const auto rows = store_.TotalLibrary();
   const std::vector<std::string_view> total(rows.begin(), rows.end());
@@ -55,23 +62,37 @@ void NotInLogCheck::Search() {
     form_.Lista_simili.items.Add(hit.item);
     form_.lista_notlog.items.Add(hit.explanation);
   }
-  form_.num_unici.caption = std::to_string(form_.Call_unici.items.rows().size() + hits.size());
+  form_.ric_notinlog.caption.clear();
+  ShowOpenItems();
   if (!hits.empty()) {
     form_.Lista_simili.selection = 0;
     Lista_simili_Click();
   }
 }
 
+void NotInLogCheck::ShowOpenItems() {
+  form_.num_unici.caption =
+      std::to_string(form_.Call_unici.items.rows().size() + form_.lista_notlog.items.rows().size());
+}
+
+/// The list also shows similar calls, which stand without an explanation and are no items.
+std::optional<std::string> NotInLogCheck::Selected() const {
+  const auto items = static_cast<int>(form_.lista_notlog.items.rows().size());
+  return form_.Lista_simili.selection < items ? form_.Lista_simili.ChosenRow() : std::nullopt;
+}
+
 void NotInLogCheck::Lista_simili_Click() {
-  // The list also shows similar calls, which stand without an explanation.
-  if (!form_.lista_notlog.items.rows().empty()) {
-    form_.lista_notlog.selection = form_.Lista_simili.selection;
-    EnableByItem();
-  }
+  form_.lista_notlog.selection = Selected() ? form_.Lista_simili.selection : -1;
+  EnableByItem();
+}
+
+void NotInLogCheck::lista_notlog_Click() {
+  form_.Lista_simili.selection = form_.lista_notlog.selection;
+  Lista_simili_Click();
 }
 
 void NotInLogCheck::EnableByItem() {
-  const std::string item = form_.Lista_simili.ChosenRow().value_or("");
+  const std::string item = Selected().value_or("");
   form_.NO_in_log.colour.reset();
   form_.no_errore.colour.reset();
   if (Holds(item, "NOT in log")) {
@@ -82,8 +103,8 @@ void NotInLogCheck::EnableByItem() {
 }
 
 void NotInLogCheck::NO_in_log_Click() {
-  const auto item = form_.Lista_simili.ChosenRow();
-  if (!item || form_.lista_notlog.items.rows().empty()) {
+  const auto item = Selected();
+  if (!item) {
     manager_.Beep(2);
     return;
   }
@@ -96,25 +117,21 @@ void NotInLogCheck::NO_in_log_Click() {
 }
 
 void NotInLogCheck::no_errore_Click() {
-  if (form_.Lista_simili.ChosenRow() && !form_.lista_notlog.items.rows().empty()) {
+  if (Selected()) {
     RemoveSelected();
   }
 }
 
 void NotInLogCheck::RemoveSelected() {
-  List& list = form_.Lista_simili;
-  const auto row = static_cast<std::size_t>(list.selection);
-  list.items.RemoveAt(row);
-  form_.lista_notlog.items.RemoveAt(row);
-  const auto left = static_cast<int>(list.items.rows().size());
-  form_.num_unici.caption = std::to_string(left);
-  if (left > 0) {
-    list.selection %= left;
-    Lista_simili_Click();
-    return;
+  form_.lista_notlog.selection = form_.Lista_simili.selection;
+  const std::size_t left = form_.lista_notlog.RemoveChosen();
+  form_.Lista_simili.RemoveChosen();
+  form_.Lista_simili.selection = form_.lista_notlog.selection;
+  ShowOpenItems();
+  Lista_simili_Click();
+  if (left == 0) {
+    GoOn();
   }
-  list.selection = form_.lista_notlog.selection = -1;
-  PassReports();
 }
 
 /// The step of the reports. No progressive numbers are sent in this contest, so nothing is

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "check/check_form.h"
 #include "check/check_state.h"
 #include "check/check_steps.h"
@@ -28,6 +31,7 @@ class NotInLogCheck {
   void not_Click();
 
   void Lista_simili_Click();
+  void lista_notlog_Click();
 
   // The decisions. Without a selected QSO they beep, or do nothing.
   void NO_in_log_Click();
@@ -35,6 +39,9 @@ class NotInLogCheck {
 
  private:
   void Search();
+  void GoOn();
+  void ShowOpenItems();
+  std::optional<std::string> Selected() const;
   void EnableByItem();
   void RemoveSelected();
   void PassReports();

@@ -6,7 +6,6 @@
 #include <unordered_set>
 
 #include "check/call_comparison.h"
-#include "check/qso_line.h"
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -100,6 +99,7 @@ std::optional<std::string> ExplainByOther(const std::vector<std::string_view>& r
 std::vector<NotInLogHit> FindNotInLog(const NotInLogSources& sources, bool hide_others_errors) {
   constexpr std::size_t kOtherShown = 8;
   constexpr std::size_t kOtherAtFault = 10;
+  constexpr std::size_t kPointsShown = 4;
   const Calls participants = FindParticipants(sources);
   const Calls confirming = FindConfirming(sources);
   const RowsByOwner nearby = FindNearby(sources, participants);
@@ -109,12 +109,10 @@ std::vector<NotInLogHit> FindNotInLog(const NotInLogSources& sources, bool hide_
     if (!participants.contains(other) || confirming.contains(other)) {
       continue;
     }
-    const std::string start =
-        Join(other, Pad(Cut(row, qso_line::kPoints), qso_line::kPoints.width));
+    const std::string start = Join(other, Pad(Cut(row, libreria_row::kPoints), kPointsShown));
     const auto rows = nearby.find(other);
-    const auto explanation = rows == nearby.end()
-                                 ? std::nullopt
-                                 : ExplainByOther(rows->second, sources.call, RTrim(other));
+    const auto explanation =
+        rows == nearby.end() ? std::nullopt : ExplainByOther(rows->second, sources.call, other);
     if (!explanation) {
       hits.push_back(
           {.item = start + "  NOT in log",

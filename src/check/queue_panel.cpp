@@ -45,6 +45,8 @@ void QueuePanel::Clear() {
   form_.ClearLists();
   form_.ClearTimes();
   form_.ClearEvidence();
+  form_.ClearUniqueHints();
+  form_.Frame_log.visible = false;
   form_.ClearScore();
   form_.bandaesame.caption.clear();
   form_.n_cla.caption.clear();

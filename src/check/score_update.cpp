@@ -53,6 +53,7 @@ void ScoreUpdate::aggiorna_punt_class_Click() {
   }
   form_.ClearLists();
   form_.Frame_unici.visible = false;
+  form_.Frame_log.visible = false;
   PutRow();
   files_.WriteAll(Join(state_.classification_path, "_scorta"), state_.queue.FileText(kStoredRow));
   report_.AppendTotals();
@@ -72,6 +73,8 @@ void ScoreUpdate::ordina_Click() {
   state_.progress.classifica_da_salvare = false;
   state_.progress.controllo_in_corso = false;
   state_.unique_checked = false;
+  form_.ClearEvidence();
+  form_.ClearUniqueHints();
   form_.ClearScore();
   steps_.Finish();
   queue_.ScanCategories();

@@ -15,6 +15,8 @@ constexpr std::size_t kTimeWidth = 8;
 constexpr std::size_t kDate = 0;
 constexpr std::size_t kTime = 1;
 constexpr std::size_t kCall = 2;
+constexpr std::size_t kNumber = 5;
+constexpr std::size_t kNumberWidth = 5;
 constexpr std::size_t kPoints = 10;
 constexpr std::size_t kFields = 11;
 
@@ -37,6 +39,7 @@ SommaQso CutSommaRow(std::string_view row) {
           .time = Left(fields[kTime], kTimeWidth),
           .call = Trim(Left(fields[kCall], kCallWidth)),
           .owner = RTrim(Right(row, kCallWidth)),
+          .number = Trim(Left(fields[kNumber], kNumberWidth)),
           .points = RTrim(fields[kPoints])};
 }
 

@@ -162,12 +162,9 @@ void TimeCheck::convalida_qso_time_Click() {
 /// Takes the selected QSO off the list and selects the one behind it, or the first. Behind the last
 /// one the time on the air is recorded.
 void TimeCheck::RemoveSelected() {
-  List& list = form_.Lista_err_orario;
-  list.items.RemoveAt(static_cast<std::size_t>(list.selection));
-  const auto left = static_cast<int>(list.items.rows().size());
-  list.selection = left == 0 ? -1 : list.selection % left;
-  if (left == 0) {
+  if (form_.Lista_err_orario.RemoveChosen() == 0) {
     form_.kmerr.caption.clear();
+    form_.Frame_log.visible = false;
     GoOn();
   } else if (SelectedRow()) {
     Lista_err_orario_Click();

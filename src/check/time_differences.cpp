@@ -55,6 +55,11 @@ std::vector<const SommaQso*> RowsOf(const std::vector<SommaQso>& rows, std::stri
   return log;
 }
 
+/// The number that the log sent; its place in the log, counted from 0, where it sent none.
+std::string OrdinalOf(const SommaQso& row, std::size_t place) {
+  return row.number.empty() ? std::to_string(place + 1) : std::string(row.number);
+}
+
 }  // namespace
 
 std::optional<BrokenTime> FindBrokenTime(const std::vector<SommaQso>& rows) {
@@ -90,7 +95,7 @@ TimeDifferences FindTimeDifferences(const std::vector<SommaQso>& rows, std::stri
       ++differences.compared;
       const int minutes = std::abs(MinutesOf(own.time) - MinutesOf(other->time));
       if (minutes > kTimeTolerance) {
-        differences.items.push_back(TimeItemRow({.ordinal = std::to_string(i + 1),
+        differences.items.push_back(TimeItemRow({.ordinal = OrdinalOf(own, i),
                                                  .own_time = std::string(own.time),
                                                  .other_time = std::string(other->time),
                                                  .other_call = std::string(own.call),

@@ -7,6 +7,7 @@
 #include "check/locator_messages.h"
 #include "check/qso_line.h"
 #include "check/unique_calls.h"
+#include "check/waiting.h"
 #include "model/call_book.h"
 #include "model/store_rows.h"
 #include "model/text.h"
@@ -35,14 +36,15 @@ void UniqueCheck::unici_Click() {
   form_.Frame_unici.visible = true;
   form_.Frame_Controllo_locatori.visible = false;
   form_.Call_unici.Fill({});
-  form_.Lista_simili.Fill({});
-  form_.lista_notlog.Fill({});
-  form_.lista_call_unici.Fill({});
-  form_.List2_unici.Fill({});
-  if (!store_.Split(StoreReading::kForUnique, [](std::size_t) {})) {
-    return;
+  form_.num_unici.caption.clear();
+  std::vector<std::string> unique;
+  {
+    const Waiting waiting(manager_, form_);
+    if (!store_.Split(StoreReading::kForUnique, [](std::size_t) {})) {
+      return;
+    }
+    unique = FindUnique();
   }
-  std::vector<std::string> unique = FindUnique();
   AddForced(unique);
   const bool none = unique.empty();
   form_.num_unici.caption = std::to_string(unique.size());
@@ -106,29 +108,28 @@ void UniqueCheck::AddForced(std::vector<std::string>& unique) {
   }
 }
 
+/// The row of the participants of a call that sent a log in this category; empty without one.
+std::string_view UniqueCheck::DeclarationOf(const UniqueItem& item) const {
+  const auto row = std::ranges::find_if(session_.participants, [&](const std::string& text) {
+    return RTrim(Cut(text, partecipante_row::kCall)) == item.call &&
+           Cut(text, partecipante_row::kCategory) == state_.categoria;
+  });
+  return row == session_.participants.end() ? std::string_view() : *row;
+}
+
 void UniqueCheck::ShowDeclared(const UniqueItem& item) {
-  for (const std::string& row : session_.participants) {
-    if (RTrim(Cut(row, partecipante_row::kCall)) == item.call &&
-        Cut(row, partecipante_row::kCategory) == state_.categoria) {
-      form_.messaggio_locatore.caption =
-          Join(" Nel log inviato ", Cut(row, partecipante_row::kCall),
-               " ha dichiarato: ", Cut(row, partecipante_row::kLocator));
-    }
+  const std::string_view row = DeclarationOf(item);
+  if (!row.empty()) {
+    form_.messaggio_locatore.caption =
+        Join(" Nel log inviato ", Cut(row, partecipante_row::kCall),
+             " ha dichiarato: ", Cut(row, partecipante_row::kLocator));
   }
 }
 
 void UniqueCheck::ClearHints() {
-  for (Label* label :
-       {&form_.messaggio_unici, &form_.messaggio_locatore, &form_.Label12, &form_.troppi_numeri,
-        &form_.pre_senze, &form_.nome_call, &form_.Prob_call_corretto, &form_.call_scorretto}) {
-    label->caption.clear();
-  }
-  form_.messaggio_unici.colour.reset();
-  form_.Avviso.visible = false;
-  for (Button* button : {&form_.ok_call_unici, &form_.marca_unico, &form_.CercaDtbIaru}) {
-    button->colour.reset();
-  }
+  form_.ClearUniqueHints();
   form_.Lista_simili.Fill({});
+  form_.lista_notlog.Fill({});
   form_.lista_call_unici.Fill({});
   form_.List2_unici.Fill({});
   form_.log_callda_cercare.enabled = false;
@@ -141,16 +142,18 @@ void UniqueCheck::Call_unici_Click() {
     return;
   }
   ClearHints();
+  form_.num_unici.caption = std::to_string(form_.Call_unici.items.rows().size());
   Findings findings;
   ShowCaptions(*item);
   if (LocatorBroken(RTrim(item->locator))) {
     manager_.Show(BrokenLocatorOfUnique(item->locator));
   }
+  const Waiting waiting(manager_, form_);
   HintParticipants(*item);
   const bool similar = ShowSimilar(*item);
   ShowLocator(*item, findings);
   if (similar) {
-    SearchBook(*item);
+    HintOwnLog(*item);
   }
   findings.in_book = std::ranges::any_of(session_.call_book, [&item](const std::string& record) {
     return RTrim(Cut(record, book_record::kCall)) == item->call;
@@ -173,7 +176,7 @@ void UniqueCheck::HintParticipants(const UniqueItem& item) {
   for (const std::string& row : session_.participants) {
     if (Cut(row, partecipante_row::kCategory) == state_.categoria && Holds(row, item.call)) {
       form_.messaggio_unici.caption =
-          Join("CALL PARTECIPANTE:   ", Cut(row, partecipante_row::kDeclaration));
+          Join(" CALL PARTECIPANTE:   ", Cut(row, partecipante_row::kDeclaration));
       form_.messaggio_unici.colour = colour::kYellow;
     }
   }
@@ -184,13 +187,15 @@ void UniqueCheck::HintParticipants(const UniqueItem& item) {
   const auto row = std::ranges::find_if(
       session_.participants, [&base](const std::string& text) { return Holds(text, base); });
   if (row != session_.participants.end()) {
-    form_.messaggio_unici.caption = Join(
-        "Partecipante:   ", Cut(*row, partecipante_row::kDeclaration), "       ", state_.categoria);
+    form_.messaggio_unici.caption =
+        Join("Partecipante:   ", Cut(*row, partecipante_row::kDeclaration), "       ",
+             Cut(*row, partecipante_row::kCategory));
   }
 }
 
 bool UniqueCheck::ShowSimilar(const UniqueItem& item) {
-  form_.Lista_simili.Fill(FindSimilarCalls(state_.qsos.others, item));
+  form_.Lista_simili.Fill(FindSimilarCalls(
+      state_.qsos.others, session_.archive_missing ? nullptr : &session_.call_book, item));
   return !form_.Lista_simili.items.rows().empty();
 }
 
@@ -241,12 +246,7 @@ void UniqueCheck::SearchTotalLibrary(const UniqueItem& item) {
   }
 }
 
-void UniqueCheck::SearchBook(const UniqueItem& item) {
-  if (!session_.archive_missing) {
-    for (std::string& row : FindEndInBook(session_.call_book, item.call)) {
-      form_.Lista_simili.items.Add(std::move(row));
-    }
-  }
+void UniqueCheck::HintOwnLog(const UniqueItem& item) {
   for (const std::string& row : session_.participants) {
     if (Holds(row, item.call)) {
       form_.messaggio_unici.caption = Join("Nel proprio log : ", item.call, "ha dichiarato  ",
@@ -329,17 +329,13 @@ std::optional<std::string> UniqueCheck::CorrectCall(const UniqueItem& item) {
 
 void UniqueCheck::Errore_locatore_Click() {
   const auto item = Selected();
-  if (!item) {
-    manager_.Beep(2);
+  if (!item || (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call)))) {
     return;
   }
-  if (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call))) {
-    return;
-  }
-  const auto answer =
-      manager_.Ask({.title = "Error Locator",
-                    .lines = {" Scrivi il LOCATORE esatto  (*) per uscire e non proseguire"},
-                    .default_text = ""});
+  const auto answer = manager_.Ask(
+      {.title = "Error Locator",
+       .lines = {" Scrivi il LOCATORE esatto  (*) per uscire e non proseguire"},
+       .default_text = std::string(Cut(DeclarationOf(*item), partecipante_row::kLocator))});
   if (!answer || answer->empty() || *answer == "*") {
     return;
   }
@@ -354,7 +350,7 @@ void UniqueCheck::Errore_locatore_Click() {
 
 void UniqueCheck::marca_unico_Click() {
   const auto item = Selected();
-  if (!item || report_.AlreadyListed(Call12(item->call))) {
+  if (!item || (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call)))) {
     return;
   }
   report_.NoteUnique(item->call, item->ordinal);
@@ -377,16 +373,12 @@ void UniqueCheck::ok_call_unici_Click() {
 
 /// Takes the selected call off the list and goes on: the next one, or what is not in a log.
 void UniqueCheck::RemoveSelected() {
-  List& list = form_.Call_unici;
-  list.items.RemoveAt(static_cast<std::size_t>(list.selection));
-  const auto left = static_cast<int>(list.items.rows().size());
+  const std::size_t left = form_.Call_unici.RemoveChosen();
   form_.num_unici.caption = std::to_string(left);
   ClearHints();
   if (left == 0) {
-    list.selection = -1;
     not_in_log_.not_Click();
   } else {
-    list.selection %= left;
     Call_unici_Click();
   }
 }
@@ -395,6 +387,7 @@ void UniqueCheck::nasondi_Click() {
   form_.ClearLists();
   form_.ClearEvidence();
   ClearHints();
+  form_.Frame_log.visible = false;
   state_.unici_saltati = true;
   state_.unique_checked = true;
   steps_.SkipToUpdate();
@@ -438,13 +431,13 @@ void UniqueCheck::cerca_probabile_Click() {
       probable = first;
     }
   }
-  if (form_.pre_senze.caption == "1") {
+  if (form_.pre_senze.caption == "0") {  // the log's own is the only one
     form_.messaggio_unici.caption = "I call con UNA presenza, sono SEMPRE visualizzati";
   }
   if (probable.empty()) {
     return;
   }
-  state_.judged_wrong = true;
+  state_.judged_wrong = probable != item->call;
   form_.Prob_call_corretto.caption = probable;
   form_.call_scorretto.caption = item->call;
   const auto& rows = form_.List2_unici.items.rows();

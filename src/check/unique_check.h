@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "check/check_form.h"
@@ -39,7 +40,7 @@ class UniqueCheck {
   /// Shows what helps to judge the selected call.
   void Call_unici_Click();
 
-  // The decisions. Without a selected call they beep, or do nothing.
+  // The decisions. Without a selected call the first beeps, and the others do nothing.
   void error_call_unici_Click();
   void Errore_locatore_Click();
   void marca_unico_Click();
@@ -65,12 +66,13 @@ class UniqueCheck {
   void TurnForcingOff();
   std::vector<std::string> FindUnique();
   void AddForced(std::vector<std::string>& unique);
+  std::string_view DeclarationOf(const UniqueItem& item) const;
   void ShowDeclared(const UniqueItem& item);
   void ClearHints();
   void ShowCaptions(const UniqueItem& item);
   void HintParticipants(const UniqueItem& item);
   bool ShowSimilar(const UniqueItem& item);
-  void SearchBook(const UniqueItem& item);
+  void HintOwnLog(const UniqueItem& item);
   void ShowLocator(const UniqueItem& item, Findings& findings);
   void SearchTotalLibrary(const UniqueItem& item);
   void ShowPresences(const UniqueItem& item, Findings& findings);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "check/qso_line.h"
 #include "model/call_book.h"
@@ -23,7 +24,7 @@ UniqueItem ReadUniqueItem(std::string_view row) {
   const std::string_view behind = LTrim(Cut(row, qso_line::kOrdinal));
   return {.call = std::string(RTrim(Cut(row, qso_line::kCall))),
           .locator = std::string(Cut(row, qso_line::kLocator)),
-          .points = std::string(Cut(row, qso_line::kPoints)),
+          .points = std::string(LTrim(Cut(row, qso_line::kPoints))),
           .ordinal = std::string(behind.substr(0, behind.find(' ')))};
 }
 
@@ -67,6 +68,18 @@ std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& o
   return similar;
 }
 
+std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& others,
+                                          const std::vector<std::string>* call_book,
+                                          const UniqueItem& item) {
+  std::vector<std::string> rows = FindSimilarCalls(others, item);
+  if (call_book != nullptr && !rows.empty()) {
+    for (std::string& record : FindEndInBook(*call_book, item.call)) {
+      rows.push_back(std::move(record));
+    }
+  }
+  return rows;
+}
+
 std::vector<std::string> FindInLocator(const std::vector<std::string_view>& others,
                                        std::string_view locator) {
   constexpr std::size_t kOwnerShown = 10;
@@ -83,8 +96,10 @@ std::vector<std::string> FindInLocator(const std::vector<std::string_view>& othe
 std::vector<std::string> EachCallOnce(std::vector<std::string> rows) {
   const auto call = [](const std::string& row) { return Cut(row, kListedCall); };
   std::ranges::stable_sort(rows, {}, call);
-  const auto repeated = std::ranges::unique(rows, {}, call);
-  rows.erase(repeated.begin(), repeated.end());
+  const auto same = [&call](const std::string& left, const std::string& right) {
+    return call(left) == call(right);
+  };
+  rows.erase(std::unique(rows.begin(), rows.end(), same), rows.end());
   return rows;
 }
 

@@ -12,8 +12,8 @@ namespace velmar {
 struct UniqueItem {
   std::string call;
   std::string locator;
-  std::string points;  ///< as they stand
-  std::string ordinal;
+  std::string points{};  ///< as they stand, without the blank ahead of them
+  std::string ordinal{};
 };
 
 UniqueItem ReadUniqueItem(std::string_view row);
@@ -21,6 +21,12 @@ UniqueItem ReadUniqueItem(std::string_view row);
 /// The QSOs of the other logs with a call like this one: the first of six tests that finds any.
 /// Behind those that hold the call itself there is a rule.
 std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& others,
+                                          const UniqueItem& item);
+
+/// The same, and behind any of them the rows of the book for the end of the call. Without a book
+/// they are left out.
+std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& others,
+                                          const std::vector<std::string>* call_book,
                                           const UniqueItem& item);
 
 /// Who else was worked in the locator: locator, call, the start of the owner, and a mark.

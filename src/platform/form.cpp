@@ -19,6 +19,15 @@ std::optional<std::string> Control::ChosenRow() const {
   return selection >= 0 && row < rows.size() ? std::optional(rows[row]) : std::nullopt;
 }
 
+std::size_t Control::RemoveChosen() {
+  items.RemoveAt(static_cast<std::size_t>(selection));
+  const std::size_t left = items.rows().size();
+  if (selection >= static_cast<int>(left)) {
+    selection = left == 0 ? -1 : 0;
+  }
+  return left;
+}
+
 void Control::Click() {
   if (on_click) {
     on_click();

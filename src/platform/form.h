@@ -93,6 +93,10 @@ class Control {
   /// The chosen row; nothing where none is chosen.
   std::optional<std::string> ChosenRow() const;
 
+  /// Takes the chosen row, which must be there, out of a list, and chooses the one behind it, or
+  /// the first. Gives how many are left.
+  std::size_t RemoveChosen();
+
   // What a person does. The front ends ask Reachable first; these do as told.
   virtual void Click();
   void DoubleClick();

@@ -129,7 +129,9 @@ BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner) {
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner) {
   widget.setTextFormat(Qt::PlainText);
   return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
-    const QString mark = MarkOf(control.colour, QStringLiteral("▶ "));
+    const QString mark = control.colour == colour::kWhite
+                             ? QStringLiteral("– ")
+                             : MarkOf(control.colour, QStringLiteral("▶ "));
     SetText(widget, (mark + ToShownRow(control.caption)).trimmed());
   });
 }

@@ -80,6 +80,7 @@ BindingPtr Bind(QLineEdit& widget, TextField& control, EventRunner& runner,
 BindingPtr Bind(QPlainTextEdit& widget, TextField& control, EventRunner& runner, QLabel* caption);
 
 /// A label whose colour tells a state: besides the colour it bears a mark that differs in shape.
+/// White is what was left out.
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner);
 
 /// A picture, which is to be seen with or without a text.

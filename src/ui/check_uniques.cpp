@@ -117,10 +117,10 @@ QWidget* CheckWindow::MakeExplanations() {
   QBoxLayout* rows = MakePart();
   auto* list = new QVBoxLayout;
   list->setSpacing(0);
-  auto* title = new QLabel(QStringLiteral("Spiegazione"));
-  title->setFont(FixedFont());
-  SetQuiet(*title);
-  list->addWidget(title);
+  auto* rule = Make<PathLabel>(form_.regola_notlog);
+  rule->setFont(FixedFont());
+  SetQuiet(*rule);
+  list->addWidget(rule);
   auto* view = Make<RowView>(form_.lista_notlog);
   view->setMinimumHeight(view->HeightOf(2));
   list->addWidget(view, 1);

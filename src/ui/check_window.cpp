@@ -52,6 +52,8 @@ CheckWindow::CheckWindow(CheckForm& form, EventRunner& runner)
 }
 
 void CheckWindow::Refresh() {
+  const bool wide = form_.Frame_solo_classifica.visible;
+  SetCloseControl(wide ? static_cast<Control&>(form_.esci_da_cla) : form_.torna_menu);
   Arrange();  // first, so that what is to have the focus can be seen
   FormWindow::Refresh();
   TellKeys();
@@ -274,8 +276,14 @@ QHBoxLayout* CheckWindow::MakeFoot() {
   SetCaption(*hint_);
   hint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   foot->addWidget(hint_, 1);
-  auto* wait = Make<QLabel>(form_.Attendi_calcolo);
-  wait->setFont(HeadingFont(0));
+  auto* wait = new QWidget;
+  auto* texts = new QHBoxLayout(wait);
+  texts->setContentsMargins(0, 0, 0, 0);
+  auto* title = Make<QLabel>(form_.Attendi_calcolo);
+  title->setFont(HeadingFont(0));
+  texts->addWidget(title);
+  texts->addWidget(Make<QLabel>(form_.calcolo_in_corso));
+  ShowWithAny(*wait, {&form_.Attendi_calcolo});
   foot->addWidget(wait);
   auto* progress = Make<QProgressBar>(form_.Bar1);
   progress->setFixedWidth(kProgressWidth);

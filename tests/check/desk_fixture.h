@@ -92,8 +92,8 @@ struct DeskFixture {
 
   /// The row of a QSO in its log.
   static std::string QsoOf(const FiledQso& qso) {
-    return Join("250119;", qso.time, ";", qso.call, ";1;59;001;59;012;;", qso.locator, ";",
-                qso.points, ";;N;;");
+    return Join("250119;", qso.time, ";", qso.call, ";1;59;;59;;;", qso.locator, ";", qso.points,
+                ";;N;;");
   }
 
   /// Where a log is filed.

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "classification_rows.h"
-#include "three_logs.h"
 #include "platform/ansi.h"
+#include "three_logs.h"
 
 namespace velmar::test {
 

@@ -63,9 +63,9 @@ TEST(TimeCheck, AClickShowsBothLogs) {
   EXPECT_EQ(desk.form.Label16.caption, " Log del call in esame : IK2QAA");
   EXPECT_EQ(desk.form.Label17.caption, " log del corrispondente :IV3QYY");
   EXPECT_EQ(desk.form.List_log_call_esame.items.rows(),
-            Names{"IK2QAA   250119;1010;IV3QYY;1;59;001;59;012;;JN66AA;307;;N;;"});
+            Names{"IK2QAA   250119;1010;IV3QYY;1;59;;59;;;JN66AA;307;;N;;"});
   EXPECT_EQ(desk.form.List_log_corrispondente.items.rows(),
-            Names{"IV3QYY 250119;0955;IK2QAA;1;59;001;59;012;;JN45AA;307;;N;;"});
+            Names{"IV3QYY 250119;0955;IK2QAA;1;59;;59;;;JN45AA;307;;N;;"});
   // The other log has gone in the meantime.
   std::string text = desk.files.ReadAll(desk.StorePath());
   text.erase(text.find("250119;0955"),
@@ -326,9 +326,9 @@ TEST(ReportStep, AnItemOfItsListIsDecided) {
   EXPECT_EQ(desk.form.Label17.caption, " log del corrispondente :IZ9QBC");
   desk.form.cerca_qso_rst.Click();
   EXPECT_EQ(desk.form.List_log_call_esame.items.rows(),
-            (Names{"IK2QAA 250119;1005;IZ9QBC;1;59;001;59;012;;JM67AA;100;;N;;2IT",
-                   "IK2QAA 250119;1010;IV3QYY;1;59;001;59;012;;JN66AA;307;;N;;2IT",
-                   "IK2QAA 250119;1130;I1QXX;1;59;001;59;012;;JN44BB;55;;N;;2IT"}));
+            (Names{"IK2QAA 250119;1005;IZ9QBC;1;59;;59;;;JM67AA;100;;N;;2IT",
+                   "IK2QAA 250119;1010;IV3QYY;1;59;;59;;;JN66AA;307;;N;;2IT",
+                   "IK2QAA 250119;1130;I1QXX;1;59;;59;;;JN44BB;55;;N;;2IT"}));
   EXPECT_EQ(desk.form.List_log_call_esame.selection, 0);
   desk.form.Lista_err_orario.Select(1);
   desk.form.cerca_qso_rst.Click();

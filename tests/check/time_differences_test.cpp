@@ -16,11 +16,11 @@ namespace {
 
 /// A row of the store: the owner's QSO with a call at a time.
 std::string Row(std::string_view owner, std::string_view time, std::string_view call,
-                std::string_view points = "100") {
-  return Join(
-      SommaQsoRow(Join("250119;", time, ";", call, ";1;59;001;59;012;;JN44BB;", points, ";;N;;"),
-                  "2IT", "JN45AA", owner),
-      kLineEnd);
+                std::string_view points = "100", std::string_view number = "") {
+  return Join(SommaQsoRow(Join("250119;", time, ";", call, ";1;59;", number, ";59;012;;JN44BB;",
+                               points, ";;N;;"),
+                          "2IT", "JN45AA", owner),
+              kLineEnd);
 }
 
 /// The items of the comparison of IK2QAA's log, and behind them the QSOs that were compared.
@@ -49,7 +49,15 @@ TEST(TimeDifferences, MidnightIsNoNeighbour) {
   EXPECT_EQ(OfTimes("2358", "0003"), (Names{"001 IK2QAA 2358 0003 IZ9QBC      *1435 100", "1"}));
 }
 
-TEST(TimeDifferences, ANumberIsTheRowsPlaceInItsLog) {
+TEST(TimeDifferences, TheNumberIsTheOneThatWasSent) {
+  const std::string other = Row("IZ9QBC", "1100", "IK2QAA");
+  EXPECT_EQ(Differences(Row("IK2QAA", "1005", "IZ9QBC", "100", "7") +
+                        Row("IK2QAA", "1005", "IZ9QBC", "100", "1234") + other),
+            (Names{"007 IK2QAA 1005 1100 IZ9QBC      *55   100",
+                   "234 IK2QAA 1005 1100 IZ9QBC      *55   100", "2"}));
+}
+
+TEST(TimeDifferences, WithoutANumberItIsTheRowsPlaceInItsLog) {
   std::string text = Row("IZ9QBC", "1100", "IK2QAA");
   for (int i = 1; i <= 1000; ++i) {
     text += Row("IK2QAA", "1005", i == 7 || i == 12 || i == 1000 ? "IZ9QBC" : "I1QXX");
