@@ -90,7 +90,18 @@ std::optional<Archive::Item> Archive::ItemOf(const List& list) {
 }
 
 std::optional<Archive::Item> Archive::SelectedItem() const {
-  return ItemOf(desk_.Frame_unici.visible ? desk_.Call_unici : desk_.Lista_dubbi);
+  if (!desk_.Frame_unici.visible) {
+    return ItemOf(desk_.Lista_dubbi);
+  }
+  if (const auto item = ItemOf(desk_.Call_unici)) {
+    return item;
+  }
+  // What is not in a log stands with its call alone.
+  const auto row = desk_.Lista_simili.ChosenRow();
+  if (!row || desk_.lista_notlog.items.rows().empty()) {
+    return std::nullopt;
+  }
+  return Item{.call = std::string(RTrim(Left(*row, kCallWidth))), .locator = ""};
 }
 
 void Archive::Show(ResultRows rows) {

@@ -39,6 +39,9 @@ bool IdenticalCall(std::string_view wanted, const CallComparison& comparison);
 std::vector<GradedCall> GradeCall(std::string_view wanted, std::string_view candidate,
                                   const CallComparison& comparison);
 
+/// The most patterns of a call where two logs are compared.
+inline constexpr std::size_t kPatternsOfLogs = 9;
+
 /// Whether `text` fits `word` with any run of characters, or none, in place of one of its first
 /// `most` characters. It is a rough net, on purpose.
 bool FitsWithOneGap(std::string_view text, std::string_view word, std::size_t most);

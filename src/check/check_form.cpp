@@ -93,6 +93,9 @@ void CheckForm::ClearUniqueHints() {
     label->caption.clear();
   }
   messaggio_unici.colour.reset();
+  log_callda_cercare.caption = "cerca  sul log di ";
+  Lista_simili.caption = kSimilarTitles;
+  NameLookUps("", "");
   Avviso.visible = false;
   for (Button* button : {&ok_call_unici, &marca_unico, &CercaDtbIaru, &NO_in_log, &no_errore}) {
     button->colour.reset();
@@ -132,6 +135,7 @@ void CheckForm::ClearLists() {
   }
   N_dubbi.caption.clear();
   num_unici.caption.clear();
+  Unici_in_attesa_conf.visible = false;
   HideErrors();
 }
 

@@ -136,8 +136,7 @@ struct CheckForm : CheckOptions {
   Button& Errore_locatore = In(Frame_unici, AddButton("Errore_locatore", "Error locator"));
   Button& marca_unico = In(Frame_unici, AddButton("marca_unico", "Call unico"));
   Button& ok_call_unici = In(Frame_unici, AddButton("ok_call_unici", "NON è errore"_a));
-  List& Lista_simili =
-      In(Frame_unici, AddList("Lista_simili", "Log         Call        Loc.   QRB"));
+  List& Lista_simili = In(Frame_unici, AddList("Lista_simili", std::string(kSimilarTitles)));
   List& lista_notlog = In(Frame_unici, AddList("lista_notlog"));
   Label& regola_notlog =
       In(Frame_unici, AddLabel("regola_notlog",
@@ -221,6 +220,7 @@ struct CheckForm : CheckOptions {
   void ClearLists();
 
   static constexpr std::string_view kQueueTitle = "Classifica generale di banda";
+  static constexpr std::string_view kSimilarTitles = "Log         Call        Loc.   QRB";
   static constexpr std::string_view kUniqueTitle = "    Call unici    ";
   static constexpr std::string_view kMapOf = "Visualizza in mappa il locatore : ";
   static constexpr std::string_view kTimeError = " conf. errore Time a : ";

@@ -36,6 +36,7 @@ void CheckSteps::Advance() {
   if (unique_done_) {
     OpenUpdate();
   } else {
+    form_.focus = &form_.unici;
     Show(CheckStep::kUnique);
   }
 }

@@ -208,7 +208,7 @@ std::optional<std::string> LocatorCheck::AskLocator() {
                .default_text = declared ? state_.declared_locator
                                         : RepeatedLocator(form_.Lista_locatori.items.rows())};
   for (;;) {
-    const auto answer = manager_.Ask(box);
+    auto answer = manager_.Ask(box);
     if (!answer || answer->empty() || *answer == "*") {
       return std::nullopt;
     }

@@ -87,6 +87,7 @@ void LogRemoval::esci_da_cla_Click() {
   queue_.LeaveWideView();
   if (std::exchange(removed_, false)) {
     queue_.Clear();
+    state_.progress = {};  // it spoke of the queue that is gone
     manager_.Show(
         {.lines = {" è necessario rileggere la classifica aggiornata dopo una cancellazione"_a}});
   }

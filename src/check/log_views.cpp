@@ -18,7 +18,6 @@ namespace {
 constexpr std::size_t kButtonText = 18;  ///< of "cerca  sul log di "
 constexpr std::size_t kShortCut = 18;    ///< behind the part of a row that is compared
 constexpr std::size_t kShortWidth = 40;
-constexpr std::size_t kPatterns = 9;
 constexpr std::size_t kMostShown = 2'000;
 
 std::string OwnRow(const SommaQso& qso) {
@@ -63,6 +62,7 @@ void LogViews::Open() {
   form_.Label_info_errati.visible = false;
   form_.Label16.caption = Join(" Log del call in esame : ", state_.call_in_esame);
   form_.Label17.caption.clear();
+  form_.cerca_qso2.caption = "Clicca per vedere eventuale errore nel call";
 }
 
 void LogViews::chiudi_Click() {
@@ -136,8 +136,10 @@ void LogViews::ShowLogOf(std::string_view other, std::string_view heading) {
 void LogViews::ShowForTimes(std::string_view other) {
   ReadStore();
   Open();
-  ListOwnLog(other);
+  ListOwnLog("");
+  SelectRow(form_.List_log_call_esame, other);
   ShowLogOf(other);
+  SelectRow(form_.List_log_corrispondente, state_.call_in_esame);
   form_.Label17.caption = Join(" log del corrispondente :", other);
 }
 
@@ -198,13 +200,15 @@ std::string LogViews::SelectedByTime() const {
                                              : ReadTimeItem(*row, call).other_call));
 }
 
-void LogViews::SelectOwnRow(std::string_view call) {
-  const auto& rows = form_.List_log_call_esame.items.rows();
+/// Chooses the first row with a worked call, a few rows under the top of its list.
+void LogViews::SelectRow(List& list, std::string_view call) {
+  constexpr int kRowsAbove = 3;
+  const auto& rows = list.items.rows();
   const auto found = std::ranges::find_if(
       // The item has no more than twelve characters of the call.
       rows, [call](const std::string& row) { return Left(ListedCall(row), kCallWidth) == call; });
-  form_.List_log_call_esame.selection =
-      found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+  list.selection = found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+  list.top = std::max(-1, list.selection - kRowsAbove);
 }
 
 void LogViews::vedi_log2_Click() {
@@ -216,7 +220,7 @@ void LogViews::vedi_log2_Click() {
   ReadStore();
   Open();
   ListOwnLog("");
-  SelectOwnRow(other);
+  SelectRow(form_.List_log_call_esame, other);
   form_.cerca_qso2.caption = Join("Cerca il qso di ", state_.call_in_esame, " nel log di ", other);
   row_missing_ = form_.List_log_call_esame.selection < 0;
   if (row_missing_) {
@@ -291,7 +295,7 @@ LogViews::Grades LogViews::SearchSimilar(std::string_view other) {
   }
   if (shown.empty()) {
     for (const SommaQso& qso : rows_) {
-      if (qso.owner == other && FitsWithOneGap(wanted, qso.call, kPatterns)) {
+      if (qso.owner == other && FitsWithOneGap(wanted, qso.call, kPatternsOfLogs)) {
         shown.push_back(GradedRow(qso, Join(" (1 err.) ", qso.call)));
         form_.Label_simile.caption = "            Call più simile 6"_a;
         grades.one_error = true;
@@ -314,7 +318,7 @@ void LogViews::cerca_qso_Click() {
     return;
   }
   vis_log_Click();
-  SelectOwnRow(other);
+  SelectRow(form_.List_log_call_esame, other);
 }
 
 void LogViews::cerca_primo_qso_Click() {

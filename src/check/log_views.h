@@ -33,7 +33,7 @@ class LogViews {
   /// there is one. Without a log of it in this category, that is told.
   void ShowLogOf(std::string_view other, std::string_view heading = "");
 
-  /// Shows the log under examination with the QSOs of `other` in it, and the other log.
+  /// Shows both logs whole, each at the QSO with the other station.
   void ShowForTimes(std::string_view other);
 
   /// The other call of the item that is selected among the times, or among the reports in their
@@ -62,7 +62,7 @@ class LogViews {
   void ListOwnLog(std::string_view holding);
   std::string WorkedCallOfChosenRow() const;
   std::string SelectedOther() const;
-  void SelectOwnRow(std::string_view call);
+  static void SelectRow(List& list, std::string_view call);
   Grades SearchSimilar(std::string_view other);
   void ShowMissingRow();
   void Remark(const Grades& grades, std::string_view other);

@@ -34,6 +34,7 @@ void NotInLogCheck::GoOn() {
     PassReports();
   } else {
     form_.Frame_unici.caption = CheckForm::kUniqueTitle;
+    steps_.OpenUnique();
   }
 }
 
@@ -44,6 +45,7 @@ void NotInLogCheck::Search() {
   form_.Lista_simili.Fill({});
   form_.lista_notlog.Fill({});
   form_.Frame_unici.caption = " NOT in LOG  ";
+  form_.Lista_simili.caption = "Call        QRB";
   form_.no_errore.caption = "NO error";
   form_.ric_notinlog.caption = "NOT in LOG ricerca in corso....";
   manager_.Progress(0, 1);  // so that the windows show it
@@ -82,7 +84,14 @@ std::optional<std::string> NotInLogCheck::Selected() const {
 }
 
 void NotInLogCheck::Lista_simili_Click() {
-  form_.lista_notlog.selection = Selected() ? form_.Lista_simili.selection : -1;
+  const auto item = Selected();
+  form_.lista_notlog.selection = item ? form_.Lista_simili.selection : -1;
+  if (item) {
+    const std::string_view call = RTrim(Cut(*item, kItemCall));
+    form_.log_callda_cercare.caption = Join("cerca  sul log di ", call);
+    form_.log_callda_cercare.enabled = true;
+    form_.NameLookUps(call, "");
+  }
   EnableByItem();
 }
 
@@ -124,6 +133,7 @@ void NotInLogCheck::no_errore_Click() {
 
 void NotInLogCheck::RemoveSelected() {
   form_.lista_notlog.selection = form_.Lista_simili.selection;
+  form_.Frame_log.visible = false;  // it shows the logs of this one
   const std::size_t left = form_.lista_notlog.RemoveChosen();
   form_.Lista_simili.RemoveChosen();
   form_.Lista_simili.selection = form_.lista_notlog.selection;

@@ -14,8 +14,6 @@ namespace velmar {
 
 namespace {
 
-constexpr std::size_t kPatterns = 9;
-
 /// Calls at their full width, so that a portable call is another one.
 using Calls = std::unordered_set<std::string_view>;
 using RowsByOwner = std::unordered_map<std::string_view, std::vector<std::string_view>>;
@@ -84,7 +82,7 @@ std::optional<std::string> ExplainByOther(const std::vector<std::string_view>& r
     const auto explain = [&](std::string_view start) {
       return Join(start, written, "  al posto di  ", call, "   L' errore è di  "_a, other);
     };
-    if (FitsWithOneGap(call, written, kPatterns)) {
+    if (FitsWithOneGap(call, written, kPatternsOfLogs)) {
       return explain("Ha scritto  ");
     }
     if (LettersSwapped(call, written)) {

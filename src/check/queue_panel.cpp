@@ -112,6 +112,10 @@ void QueuePanel::Reload(std::string separator) {
 
 void QueuePanel::SetRow(std::size_t row, const std::string& text) {
   state_.queue.SetRow(row, text);
+  ShowRows();
+}
+
+void QueuePanel::ShowRows() {
   const int chosen = form_.listacall_banda.selection;
   form_.listacall_banda.Fill(state_.queue.Shown());
   form_.listacall_banda.selection = chosen;

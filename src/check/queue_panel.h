@@ -58,6 +58,9 @@ class QueuePanel {
   /// Another text of a row of the queue, counted from 0.
   void SetRow(std::size_t row, const std::string& text);
 
+  /// Shows the rows of the queue as they are now; the choice stays.
+  void ShowRows();
+
   /// Forgets the classification and the check that may run, but not how far the desk is.
   void Clear();
 

@@ -76,6 +76,7 @@ void ScoreUpdate::ordina_Click() {
   form_.ClearEvidence();
   form_.ClearUniqueHints();
   form_.ClearScore();
+  form_.HideErrors();
   steps_.Finish();
   queue_.ScanCategories();
   if (skipped) {
@@ -193,6 +194,14 @@ void ScoreUpdate::Swap(std::string_view from, std::string_view to) {
     AddLine(swapped, row);
   }
   files_.WriteAll(path, swapped);
+  for (std::size_t i = 1; i < state_.queue.size(); ++i) {
+    std::string row = state_.queue.Row(i);
+    if (Cut(row, kAt) == from) {
+      state_.queue.SetRow(i, row.replace(kAt.start - 1, kAt.width, to));
+    }
+  }
+  queue_.ShowRows();
+  queue_.ScanCategories();
 }
 
 void ScoreUpdate::Visualizza_pulsante_aggiorna_Click() {

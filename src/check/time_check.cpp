@@ -66,9 +66,13 @@ void TimeCheck::EndOnBrokenTime(const SommaQso& row, std::size_t character) {
   throw ProgramEnd();
 }
 
+/// Tells how many QSOs wait for a decision.
+void TimeCheck::ShowOpen(std::size_t open) {
+  form_.Frame_Log_errori_tempo.caption = Join("    Controllo orari : ", open, "    ");
+}
+
 void TimeCheck::ShowOutcome(const TimeDifferences& differences) {
-  form_.Frame_Log_errori_tempo.caption =
-      Join("    Controllo orari : ", differences.items.size(), "    ");
+  ShowOpen(differences.items.size());
   if (!differences.items.empty()) {
     return;
   }
@@ -79,7 +83,7 @@ void TimeCheck::ShowOutcome(const TimeDifferences& differences) {
 void TimeCheck::RecordTimeOnAir(const std::vector<SommaQso>& rows, std::string_view hint) {
   const TimeOnAir time = FindTimeOnAir(rows, state_.call_in_esame);
   if (form_.vis_mess.checked) {
-    manager_.Show({.lines = {" il tempo intercorso fra il primo qso e"_a,
+    manager_.Show({.lines = {" il tempo intercorso fra il primo qso e",
                              " l'ultimo qso del contest è stato di: "_a, " ",
                              Join("     ", time.hours, " ore  e  ", time.minutes, "  minuti"), " ",
                              Join("      call = ", state_.call_in_esame),
@@ -118,8 +122,8 @@ void TimeCheck::Lista_err_orario_Click() {
 
 void TimeCheck::conf_err_time_Click() {
   const auto row = SelectedRow();
-  if (!row) {
-    return;
+  if (!row || state_.report_mode) {
+    return;  // an item of reports has other columns
   }
   const TimeItem item = ReadTimeItem(*row, state_.call_in_esame);
   if (report_.AlreadyListed(std::string(RTrim(item.other_call)))) {
@@ -136,8 +140,8 @@ void TimeCheck::conf_err_time_Click() {
 
 void TimeCheck::conf_err_RST_Click() {
   const auto row = SelectedRow();
-  if (!row) {
-    return;
+  if (!row || !state_.report_mode) {
+    return;  // an item of times has other columns
   }
   const ReportItem item = ReadReportItem(*row, state_.call_in_esame.size());
   const std::string call(RTrim(item.other_call));
@@ -162,7 +166,11 @@ void TimeCheck::convalida_qso_time_Click() {
 /// Takes the selected QSO off the list and selects the one behind it, or the first. Behind the last
 /// one the time on the air is recorded.
 void TimeCheck::RemoveSelected() {
-  if (form_.Lista_err_orario.RemoveChosen() == 0) {
+  const std::size_t left = form_.Lista_err_orario.RemoveChosen();
+  if (!state_.report_mode) {
+    ShowOpen(left);
+  }
+  if (left == 0) {
     form_.kmerr.caption.clear();
     form_.Frame_log.visible = false;
     GoOn();
@@ -174,6 +182,7 @@ void TimeCheck::RemoveSelected() {
 /// Nothing is open in the list any more.
 void TimeCheck::GoOn() {
   if (!state_.report_mode) {
+    form_.messaggio.caption = " tutti gli orari risultano corretti";
     RecordTimeOnAir(
         views_.ReadStore(),
         "  controlla se il nome del call da cancellare e barrato mentre il nome del file no.");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -50,6 +51,7 @@ class TimeCheck {
   bool CheckRuns() const;
   std::optional<std::string> SelectedRow() const;
   void EndOnBrokenTime(const SommaQso& row, std::size_t character);
+  void ShowOpen(std::size_t open);
   void ShowOutcome(const TimeDifferences& differences);
   void RecordTimeOnAir(const std::vector<SommaQso>& rows, std::string_view hint);
   void RemoveSelected();

@@ -17,7 +17,6 @@ namespace velmar {
 
 namespace {
 
-constexpr Column kListedCall{11, 12};    ///< of a row of the lists beside
 constexpr Column kProbableCall{11, 10};  ///< the same, as far as it is compared
 constexpr std::size_t kFewPresences = 3;
 constexpr std::size_t kPatterns = 12;
@@ -373,10 +372,12 @@ void UniqueCheck::ok_call_unici_Click() {
 
 /// Takes the selected call off the list and goes on: the next one, or what is not in a log.
 void UniqueCheck::RemoveSelected() {
+  form_.Frame_log.visible = false;  // it shows the logs of this one
   const std::size_t left = form_.Call_unici.RemoveChosen();
   form_.num_unici.caption = std::to_string(left);
   ClearHints();
   if (left == 0) {
+    form_.Unici_in_attesa_conf.visible = false;
     not_in_log_.not_Click();
   } else {
     Call_unici_Click();

@@ -14,7 +14,6 @@ namespace velmar {
 
 namespace {
 
-constexpr Column kListedCall{11, 12};  ///< of a row of FindInLocator
 constexpr std::string_view kRule = "------------------------------------------>";
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/columns.h"
+
 namespace velmar {
 
 /// What the manager sees of a unique call. Calls are given without blanks behind them.
@@ -28,6 +30,9 @@ std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& o
 std::vector<std::string> FindSimilarCalls(const std::vector<std::string_view>& others,
                                           const std::vector<std::string>* call_book,
                                           const UniqueItem& item);
+
+/// The call of a row of FindInLocator.
+inline constexpr Column kListedCall{11, 12};
 
 /// Who else was worked in the locator: locator, call, the start of the owner, and a mark.
 std::vector<std::string> FindInLocator(const std::vector<std::string_view>& others,

@@ -19,7 +19,7 @@ constexpr int kWaveAngle = 45 * 16;    ///< in sixteenths of a degree, each way 
 }  // namespace
 
 Emblem::Emblem() {
-  setFixedSize(sizeHint());
+  setFixedSize(kSize, kSize);
 }
 
 QSize Emblem::sizeHint() const {

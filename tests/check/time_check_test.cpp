@@ -63,9 +63,13 @@ TEST(TimeCheck, AClickShowsBothLogs) {
   EXPECT_EQ(desk.form.Label16.caption, " Log del call in esame : IK2QAA");
   EXPECT_EQ(desk.form.Label17.caption, " log del corrispondente :IV3QYY");
   EXPECT_EQ(desk.form.List_log_call_esame.items.rows(),
-            Names{"IK2QAA   250119;1010;IV3QYY;1;59;;59;;;JN66AA;307;;N;;"});
+            (Names{"IK2QAA   250119;1005;IZ9QBC;1;59;;59;;;JM67AA;100;;N;;",
+                   "IK2QAA   250119;1010;IV3QYY;1;59;;59;;;JN66AA;307;;N;;",
+                   "IK2QAA   250119;1130;I1QXX;1;59;;59;;;JN44BB;55;;N;;"}));
+  EXPECT_EQ(desk.form.List_log_call_esame.selection, 1) << "the QSO in its log";
   EXPECT_EQ(desk.form.List_log_corrispondente.items.rows(),
             Names{"IV3QYY 250119;0955;IK2QAA;1;59;;59;;;JN45AA;307;;N;;"});
+  EXPECT_EQ(desk.form.List_log_corrispondente.selection, 0);
   // The other log has gone in the meantime.
   std::string text = desk.files.ReadAll(desk.StorePath());
   text.erase(text.find("250119;0955"),
@@ -102,6 +106,17 @@ TEST(TimeCheck, APenaltyFallsOnTheLogUnderExaminationAlone) {
                    "  2    IV3QYY      002    errore time       1010        0955  15   -307 "}));
   EXPECT_EQ(desk.Score(), "2 407 4593");
   EXPECT_EQ(Mid(desk.form.evidenzia.caption, 65, 1), "*") << "the QSO with the DX call";
+}
+
+TEST(TimeCheck, AnItemOfTimesIsNoItemOfReports) {
+  TimesDesk desk;
+  desk.Checked();
+  const std::string list = desk.ErrorListOf("IK2QAA");
+  desk.form.Lista_err_orario.selection = 0;
+  desk.form.conf_err_RST.Click();
+  EXPECT_EQ(desk.Items().size(), 2U);
+  EXPECT_EQ(desk.ErrorListOf("IK2QAA"), list);
+  EXPECT_EQ(desk.Score(), "0 0 5000");
 }
 
 TEST(TimeCheck, BehindTheLastDecisionTheTimeOnTheAirIsRecorded) {
