@@ -18,6 +18,7 @@
 #include "model/text.h"
 #include "model/workspace.h"
 #include "plain_doubts.h"
+#include "plain_times.h"
 
 namespace velmar {
 namespace {
@@ -63,19 +64,32 @@ void BM_FindDoubtsByLoops(benchmark::State& state) {
 }
 BENCHMARK(BM_FindDoubtsByLoops)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
-void BM_FindTimeDifferences(benchmark::State& state) {
+/// A comparison of the times, as a benchmark.
+template <typename Comparison>
+void CompareTimes(benchmark::State& state, const Comparison& compare) {
   const bench::MadeStore store = StoreOf(state);
   const std::vector<SommaQso> rows = CutSommaRows(store.somma_qso);
   const std::string call = bench::MadeCall(Examined(state));
   for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
-    benchmark::DoNotOptimize(FindTimeDifferences(rows, call));
+    benchmark::DoNotOptimize(compare(rows, call));
   }
   const TimeDifferences found = FindTimeDifferences(rows, call);
-  if (found.items.empty() || found.items.size() == found.compared) {
+  const TimeDifferences plain = bench::FindTimesByLoops(rows, call).differences;
+  if (found.items.empty() || found.items.size() == found.compared || found.items != plain.items ||
+      found.compared != plain.compared) {
     state.SkipWithError("the times are wrong");
   }
 }
+
+void BM_FindTimeDifferences(benchmark::State& state) {
+  CompareTimes(state, FindTimeDifferences);
+}
 BENCHMARK(BM_FindTimeDifferences)->Arg(10'000)->Arg(50'000)->Arg(248'000);
+
+void BM_FindTimesByLoops(benchmark::State& state) {
+  CompareTimes(state, bench::FindTimesByLoops);
+}
+BENCHMARK(BM_FindTimesByLoops)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
 /// An archive as large as the calls of many years.
 std::vector<std::string> MakeBook() {
