@@ -290,13 +290,18 @@ void UniqueCheck::ChooseListed(const List& list) {
   }
 }
 
+/// Whether the manager wants this call to be wrong, whatever the checks say.
+bool UniqueCheck::Forced(const UniqueItem& item) const {
+  return state_.errore_forzato && item.call == state_.call_forzato;
+}
+
 void UniqueCheck::error_call_unici_Click() {
   const auto item = Selected();
   if (!item) {
     manager_.Beep(2);
     return;
   }
-  if (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call))) {
+  if (!Forced(*item) && report_.AlreadyListed(Call12(item->call))) {
     return;
   }
   if (const auto call = CorrectCall(*item)) {
@@ -313,7 +318,7 @@ void UniqueCheck::error_call_unici_Click() {
 
 /// The call as it should have been; nothing where the manager thinks better of it.
 std::optional<std::string> UniqueCheck::CorrectCall(const UniqueItem& item) {
-  if (!state_.errore_forzato) {
+  if (!Forced(item)) {
     for (const List* list : {&form_.lista_call_unici, &form_.List2_unici}) {
       if (const auto row = list->ChosenRow()) {
         return std::string(Cut(*row, kListedCall));
@@ -328,7 +333,7 @@ std::optional<std::string> UniqueCheck::CorrectCall(const UniqueItem& item) {
 
 void UniqueCheck::Errore_locatore_Click() {
   const auto item = Selected();
-  if (!item || (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call)))) {
+  if (!item || (!Forced(*item) && report_.AlreadyListed(Call12(item->call)))) {
     return;
   }
   const auto answer = manager_.Ask(
@@ -349,7 +354,7 @@ void UniqueCheck::Errore_locatore_Click() {
 
 void UniqueCheck::marca_unico_Click() {
   const auto item = Selected();
-  if (!item || (!state_.errore_forzato && report_.AlreadyListed(Call12(item->call)))) {
+  if (!item || (!Forced(*item) && report_.AlreadyListed(Call12(item->call)))) {
     return;
   }
   report_.NoteUnique(item->call, item->ordinal);

@@ -77,6 +77,7 @@ class UniqueCheck {
   void SearchTotalLibrary(const UniqueItem& item);
   void ShowPresences(const UniqueItem& item, Findings& findings);
   void Advise(const Findings& findings);
+  bool Forced(const UniqueItem& item) const;
   std::optional<std::string> CorrectCall(const UniqueItem& item);
   void RemoveSelected();
 
