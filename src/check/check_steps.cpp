@@ -28,6 +28,7 @@ void CheckSteps::Advance() {
   const bool doubts = !form_.Lista_dubbi.items.rows().empty();
   if (doubts || TimesOpen()) {
     CloseButtons();  // they may have led on before the times were looked at again
+    form_.focus = doubts ? &form_.Lista_dubbi : &form_.Lista_err_orario;
     Show(doubts ? CheckStep::kLocators : CheckStep::kTimes);
     return;
   }
