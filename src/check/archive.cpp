@@ -93,7 +93,7 @@ std::optional<Archive::Item> Archive::SelectedItem() const {
   if (!desk_.Frame_unici.visible) {
     return ItemOf(desk_.Lista_dubbi);
   }
-  if (const auto item = ItemOf(desk_.Call_unici)) {
+  if (auto item = ItemOf(desk_.Call_unici)) {
     return item;
   }
   // What is not in a log stands with its call alone.
