@@ -11,6 +11,7 @@
 #include "check/somma_qso.h"
 #include "check/time_differences.h"
 #include "check/unique_calls.h"
+#include "check/unique_evidence.h"
 #include "examined_store.h"
 #include "made_logs.h"
 #include "made_store.h"
@@ -18,7 +19,9 @@
 #include "model/text.h"
 #include "model/workspace.h"
 #include "plain_doubts.h"
+#include "plain_not_in_log.h"
 #include "plain_times.h"
+#include "plain_unique.h"
 
 namespace velmar {
 namespace {
@@ -101,7 +104,9 @@ std::vector<std::string> MakeBook() {
   return book;
 }
 
-void BM_FindUniqueCalls(benchmark::State& state) {
+/// A search for the unique calls, as a benchmark.
+template <typename Search>
+void SearchUnique(benchmark::State& state, const Search& search) {
   const bench::MadeStore store = StoreOf(state);
   const LibrarySplit qsos = SplitLibrary(store.library, bench::MadeCall(Examined(state)));
   const std::vector<std::string_view> participants = SplitLines(store.participants);
@@ -114,16 +119,27 @@ void BM_FindUniqueCalls(benchmark::State& state) {
                               .hide_with_log = true,
                               .hide_over_two = false};
   for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
-    benchmark::DoNotOptimize(FindUniqueCalls(sources));
+    benchmark::DoNotOptimize(search(sources));
   }
-  const std::size_t found = FindUniqueCalls(sources).size();
-  if (found == 0 || found > qsos.log.size() / 2) {
+  const std::vector<std::string> unique = FindUniqueCalls(sources);
+  if (unique.empty() || bench::FindUniqueByLoops(sources).rows != unique) {
     state.SkipWithError("the unique calls are wrong");
   }
 }
+
+void BM_FindUniqueCalls(benchmark::State& state) {
+  SearchUnique(state, FindUniqueCalls);
+}
 BENCHMARK(BM_FindUniqueCalls)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
-void BM_FindNotInLog(benchmark::State& state) {
+void BM_FindUniqueByLoops(benchmark::State& state) {
+  SearchUnique(state, bench::FindUniqueByLoops);
+}
+BENCHMARK(BM_FindUniqueByLoops)->Arg(10'000)->Arg(50'000)->Arg(248'000);
+
+/// A search for what is not in a log, as a benchmark.
+template <typename Search>
+void SearchNotInLog(benchmark::State& state, const Search& search) {
   const bench::MadeStore store = StoreOf(state);
   const std::string call = bench::MadeCall(Examined(state));
   const std::string locator = bench::MadeLocator(Examined(state));
@@ -138,14 +154,36 @@ void BM_FindNotInLog(benchmark::State& state) {
                                 .call = call,
                                 .locator = locator};
   for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
-    benchmark::DoNotOptimize(FindNotInLog(sources, false));
+    benchmark::DoNotOptimize(search(sources, false));
   }
-  const std::size_t found = FindNotInLog(sources, false).size();
-  if (found == 0 || found > qsos.log.size() / 2) {
+  const bench::PlainNotInLog plain = bench::FindNotInLogByLoops(sources, false);
+  if (plain.hits.empty() || FindNotInLog(sources, false).size() != plain.hits.size()) {
     state.SkipWithError("what is not in a log is wrong");
   }
 }
+
+void BM_FindNotInLog(benchmark::State& state) {
+  SearchNotInLog(state, FindNotInLog);
+}
 BENCHMARK(BM_FindNotInLog)->Arg(10'000)->Arg(50'000)->Arg(248'000);
+
+void BM_FindNotInLogByLoops(benchmark::State& state) {
+  SearchNotInLog(state, bench::FindNotInLogByLoops);
+}
+BENCHMARK(BM_FindNotInLogByLoops)->Arg(10'000)->Arg(50'000)->Arg(248'000);
+
+/// A call like no other, for which all six tests are made.
+void BM_FindSimilarCalls(benchmark::State& state) {
+  const bench::MadeStore store = StoreOf(state);
+  const LibrarySplit qsos = SplitLibrary(store.library, bench::MadeCall(Examined(state)));
+  UniqueItem item;
+  item.call = "ZZ0ZZZ";
+  item.locator = "AA00AA";
+  for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores)
+    benchmark::DoNotOptimize(FindSimilarCalls(qsos.others, item));
+  }
+}
+BENCHMARK(BM_FindSimilarCalls)->Arg(10'000)->Arg(50'000)->Arg(248'000);
 
 }  // namespace
 }  // namespace velmar
