@@ -287,12 +287,5 @@ TEST(CheckLeaving, AClassificationOfTooManyRowsIsAFailureAndNoneIsInUse) {
   EXPECT_EQ(desk.TakeBoxes(), std::vector{kLoadFirst});
 }
 
-TEST(CheckLeaving, DeletingIsDoneElsewhere) {
-  OpenDesk desk;
-  desk.form.elimina_L.Click();
-  EXPECT_EQ(desk.TakeBoxes(),
-            std::vector{Told(" Clicca sul pulsante in basso a destra 'SOLO CLASSIFICA'")});
-}
-
 }  // namespace
 }  // namespace velmar::test

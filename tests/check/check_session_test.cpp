@@ -30,18 +30,6 @@ TEST(CheckSession, OpensReadyToLoad) {
   EXPECT_EQ(desk.files.changes, 0);
 }
 
-TEST(CheckSession, TheTitlesOfTheQueueStandInTheirOrder) {
-  Names titles;
-  std::size_t at = 0;
-  const OpenDesk desk;
-  for (const char* title : {"Call", "Locatore", "Aslm", "Antenna", "Power", "Qso", "Declared",
-                            "odx", "DX", "Qrb", "err", "errQRB", "Finale", "%", "pos ."}) {
-    const std::size_t found = desk.form.titoli.caption.find(title, at);
-    ASSERT_NE(found, std::string::npos) << title;
-    at = found + 1;
-  }
-}
-
 TEST(CheckSession, TheMainScreenGoesWhenTheDeskIsReady) {
   DeskFixture desk;  // without participants
   Names seen;

@@ -292,15 +292,6 @@ TEST(CheckStart, TheArchiveIsLoadedOnceAndTurnsItsOptionOn) {
   EXPECT_FALSE(desk.form.Check5.checked) << "the manager's word stands";
 }
 
-TEST(CheckStart, AMissingArchiveIsToldOnceAndHindersNothing) {
-  LoadedDesk desk;
-  desk.session.archive_missing = false;
-  desk.Started("IV3QYY");
-  desk.Started("IV3QYY");
-  EXPECT_EQ(desk.manager.boxes, (std::vector{kQuestion, Told(" ARCHIVIO ASSENTE "), kQuestion}));
-  EXPECT_TRUE(desk.form.unici.enabled);
-}
-
 TEST(CheckStart, WithoutTheLibraryThereIsNoCheck) {
   LoadedDesk desk;
   desk.workspace.files().Remove(desk.session.workspace.store_file(StoreFile::kLibreria));
