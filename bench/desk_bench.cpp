@@ -16,6 +16,7 @@
 #include "model/workspace.h"
 #include "platform/disk_file_system.h"
 #include "player/script_ports.h"
+#include "ui/qt_picture_files.h"
 
 namespace velmar {
 namespace {
@@ -80,11 +81,13 @@ class Desk {
   ScriptMachine machine_{facts_};
   ScriptWeb web_{facts_, nullptr};
   ScriptPrinter printer_{facts_, nullptr};
+  QtPictureFiles pictures_{files_};
   ContestStore store_{files_, session_.workspace};
   Screen screen_;
   MainForm main_;
-  CheckDesk desk_{
-      session_, {files_, manager, clock_, machine_, web_, printer_}, store_, screen_, main_, form};
+  CheckDesk desk_{session_, {files_, manager, clock_, machine_, web_, printer_, pictures_},
+                  store_,   screen_,
+                  main_,    form};
 };
 
 /// All that happens from the double click on a log until its doubts are shown.

@@ -23,6 +23,7 @@
 #include "platform/file_system.h"
 #include "player/script_ports.h"
 #include "session/main_form.h"
+#include "ui/qt_picture_files.h"
 #include "written_files.h"
 
 namespace velmar::bench {
@@ -85,7 +86,8 @@ class Way {
   Way(const Workspace& paths, FileSystem& files)
       : paths_(paths),
         files_(files),
-        program_(paths.base(), Ports{files, manager, clock_, machine_, web_, printer_}) {}
+        program_(paths.base(), Ports{files, manager, clock_, machine_, web_, printer_, pictures_}) {
+  }
 
   /// From the start of the program to the named logs.
   void Name() {
@@ -123,6 +125,7 @@ class Way {
   ScriptMachine machine_{facts_};
   ScriptWeb web_{facts_, nullptr};
   ScriptPrinter printer_{facts_, nullptr};
+  QtPictureFiles pictures_{files_};
   Program program_;
 };
 

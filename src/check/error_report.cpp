@@ -143,7 +143,7 @@ void ErrorReport::stampa_errori_Click() {
   if (!printer_.Installed()) {
     manager_.Show({.lines = {" Nessuna stampante installata. "}});
   } else if (!state_.call_in_esame.empty()) {
-    printer_.Print(LinesOf(files_.ReadAll(Path())));
+    printer_.Print({{.lines = LinesOf(files_.ReadAll(Path()))}});
   }
 }
 

@@ -215,7 +215,7 @@ void ScoreUpdate::stampa_classifica_di_banda_Click() {
     manager_.Show(LoadClassificationFirst());
     return;
   }
-  printer_.Print(form_.listacall_banda.items.rows());
+  printer_.Print({{.lines = form_.listacall_banda.items.rows()}});
 }
 
 }  // namespace velmar

@@ -28,6 +28,31 @@ std::size_t Control::RemoveChosen() {
   return left;
 }
 
+void Grid::Shape(std::size_t rows, std::size_t columns) {
+  cells_.assign(rows, std::vector<std::string>(columns));
+  items.Assign(std::vector<std::string>(rows, std::string(columns - 1, '\t')));
+}
+
+void Grid::Set(std::size_t row, std::size_t column, std::string_view text) {
+  cells_[row][column] = text;
+  Show(row);
+}
+
+void Grid::SetRow(std::size_t row, std::size_t column, std::span<const std::string> texts) {
+  std::ranges::copy(texts, cells_[row].begin() + static_cast<std::ptrdiff_t>(column));
+  Show(row);
+}
+
+void Grid::Show(std::size_t row) {
+  std::string text;
+  for (const std::string& cell : cells_[row]) {
+    text += cell;
+    text += '\t';
+  }
+  text.pop_back();
+  items.Replace(row, std::move(text));
+}
+
 void Control::Click() {
   if (on_click) {
     on_click();

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -59,6 +60,11 @@ class Items {
   }
   void Add(std::string row) {
     rows_.push_back(std::move(row));
+    ++version_;
+  }
+  /// Another text in place of a row, by its number counted from 0; the row must be there.
+  void Replace(std::size_t row, std::string text) {
+    rows_[row] = std::move(text);
     ++version_;
   }
 
@@ -168,6 +174,26 @@ struct ProgressBar : PlainControl<ControlKind::kProgress> {
   std::size_t maximum = 100;
 };
 
+/// A table of cells, its rows and columns counted from 0: the first row and the first column hold
+/// the labels. The items are the rows, their cells parted by tabs.
+struct Grid : PlainControl<ControlKind::kGrid> {
+  using PlainControl::PlainControl;
+
+  /// Empties it to a number of rows and columns, both of at least 1.
+  void Shape(std::size_t rows, std::size_t columns);
+
+  /// Puts a text into a cell, which must be there.
+  void Set(std::size_t row, std::size_t column, std::string_view text);
+
+  /// Puts texts into a row from a column on.
+  void SetRow(std::size_t row, std::size_t column, std::span<const std::string> texts);
+
+ private:
+  void Show(std::size_t row);
+
+  std::vector<std::vector<std::string>> cells_;
+};
+
 /// A screen of the program: named controls in their order, with a title. A form is declared once,
 /// with its controls as members, where its procedure can use them.
 class Form {
@@ -222,6 +248,7 @@ class Form {
     combo.items.Assign(std::move(rows));
     return combo;
   }
+  Grid& AddGrid(const std::string& name) { return Add<Grid>(name, ""); }
   ProgressBar& AddProgress(const std::string& name) { return Add<ProgressBar>(name, ""); }
 
  private:

@@ -31,11 +31,12 @@ struct InputBox {
   bool operator==(const InputBox&) const = default;
 };
 
-/// A dialog that lets the manager choose a file to open.
+/// A dialog that lets the manager choose a file to open, or one to write.
 struct FileDialog {
   std::string title;
   std::string filter;  ///< pairs of a name and its patterns, parted by "|"
   std::string folder;
+  std::string new_ending{};  ///< to write: what a name without an ending takes; empty to open
 
   bool operator==(const FileDialog&) const = default;
 };

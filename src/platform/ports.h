@@ -17,6 +17,7 @@ struct Ports {
   Machine& machine;
   Web& web;
   Printer& printer;
+  PictureFiles& pictures;
 };
 
 }  // namespace velmar

@@ -10,6 +10,7 @@
 #include "ui/look.h"
 #include "ui/qt_machine.h"
 #include "ui/qt_manager.h"
+#include "ui/qt_picture_files.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/qt_web.h"
@@ -35,8 +36,9 @@ int Run(char* arguments[]) {
   QtMachine machine;
   QtWeb web;
   QtPrinter printer(runner);
+  QtPictureFiles pictures(files);
   Program program(FromDiskName(QDir::currentPath()),
-                  {files, manager, clock, machine, web, printer});
+                  {files, manager, clock, machine, web, printer, pictures});
   Desktop desktop(program, runner, manager);
   return desktop.Run();
 }

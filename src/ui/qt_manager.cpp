@@ -28,11 +28,11 @@ QWidget* Parent() {
   return nullptr;
 }
 
-void SetCaptions(QFileDialog& dialog) {
+void SetCaptions(QFileDialog& dialog, const QString& accept) {
   dialog.setLabelText(QFileDialog::LookIn, QStringLiteral("Cerca in:"));
   dialog.setLabelText(QFileDialog::FileName, QStringLiteral("Nome file:"));
   dialog.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
-  dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Apri"));
+  dialog.setLabelText(QFileDialog::Accept, accept);
   dialog.setLabelText(QFileDialog::Reject, QStringLiteral("Annulla"));
 }
 
@@ -52,9 +52,12 @@ std::optional<std::string> QtManager::Ask(const InputBox& box) {
 
 std::optional<std::string> QtManager::PickFile(const FileDialog& dialog) {
   QFileDialog files(Parent(), ToShownRow(dialog.title), ToDiskName(dialog.folder));
-  files.setFileMode(QFileDialog::ExistingFile);
+  const bool to_write = !dialog.new_ending.empty();
+  files.setAcceptMode(to_write ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  files.setFileMode(to_write ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  files.setDefaultSuffix(ToDiskName(dialog.new_ending));
   files.setNameFilters(NameFilters(dialog.filter));
-  SetCaptions(files);
+  SetCaptions(files, to_write ? QStringLiteral("Salva") : QStringLiteral("Apri"));
   if (runner_.Converse(files) != QDialog::Accepted || files.selectedFiles().isEmpty()) {
     return std::nullopt;
   }

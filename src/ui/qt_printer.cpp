@@ -10,61 +10,92 @@
 #include "platform/error.h"
 #include "ui/event_runner.h"
 #include "ui/look.h"
+#include "ui/picture_painter.h"
 #include "ui/qt_text.h"
 
 namespace velmar {
 
 namespace {
 
-constexpr double kLargestPoints = 10;
 constexpr double kSmallestPoints = 4;
+constexpr int kTitlePoints = 14;
 
-/// The font of one width in which `widest` fits a line of the page.
-QFont FontFor(QPrinter& printer, const QString& widest) {
-  QFont font = FixedFont();
-  font.setPointSizeF(kLargestPoints);
-  const double width = QFontMetricsF(font, &printer).horizontalAdvance(widest);
-  const double room = printer.pageRect(QPrinter::DevicePixel).width();
-  if (width > room) {
-    font.setPointSizeF(std::max(kSmallestPoints, kLargestPoints * room / width));
+void Begin(QPainter& painter, QPrinter& printer) {
+  if (!painter.begin(&printer)) {
+    throw RunTimeError(ErrorNumber::kDeviceError, "the printer");
   }
+}
+
+QFont FontOf(double points) {
+  QFont font = FixedFont();
+  font.setPointSizeF(std::max(kSmallestPoints, points));
   return font;
+}
+
+/// What the letters of a job shrink by, so that its longest line fits a page.
+double Shrinkage(QPrinter& printer, const PrintJob& job) {
+  const double room = printer.pageRect(QPrinter::DevicePixel).width();
+  double shrinkage = 1;
+  for (const PrintedBlock& block : job) {
+    const QFontMetricsF metrics(FontOf(block.points), &printer);
+    for (const std::string& line : block.lines) {
+      shrinkage = std::min(shrinkage, room / metrics.horizontalAdvance(ToShownRow(line)));
+    }
+  }
+  return shrinkage;
 }
 
 }  // namespace
 
-void PrintPages(QPrinter& printer, const std::vector<std::string>& lines) {
-  std::vector<QString> shown;
-  QString widest;
-  for (const std::string& line : lines) {
-    shown.push_back(ToShownRow(line));
-    widest = std::max(widest, shown.back(),
-                      [](const QString& a, const QString& b) { return a.size() < b.size(); });
-  }
+void PrintPages(QPrinter& printer, const PrintJob& job) {
   QPainter painter;
-  if (!painter.begin(&printer)) {
-    throw RunTimeError(ErrorNumber::kDeviceError, "the printer");
-  }
-  painter.setFont(FontFor(printer, widest));
-  const double step = painter.fontMetrics().lineSpacing();
+  Begin(painter, printer);
+  const double shrinkage = Shrinkage(printer, job);
   const double bottom = printer.pageRect(QPrinter::DevicePixel).height();
-  double y = step;
-  for (const QString& line : shown) {
-    if (y > bottom) {
-      printer.newPage();
-      y = step;
+  double y = 0;
+  for (const PrintedBlock& block : job) {
+    painter.setFont(FontOf(block.points * shrinkage));
+    const double step = painter.fontMetrics().lineSpacing();
+    for (const std::string& line : block.lines) {
+      y += step;
+      if (y > bottom) {
+        printer.newPage();
+        y = step;
+      }
+      painter.drawText(QPointF(0, y), ToShownRow(line));
     }
-    painter.drawText(QPointF(0, y), line);
-    y += step;
   }
 }
 
-void QtPrinter::Print(const std::vector<std::string>& lines) {
+void PrintPicturePage(QPrinter& printer, const std::string& title, const Picture& picture) {
+  QPainter painter;
+  Begin(painter, printer);
+  painter.setFont(FontOf(kTitlePoints));
+  const double step = painter.fontMetrics().lineSpacing();
+  painter.drawText(QPointF(0, step), ToShownRow(title));
+  const QRectF page = printer.pageRect(QPrinter::DevicePixel);
+  const double scale =
+      std::min(page.width() / picture.width(), (page.height() - 2 * step) / picture.height());
+  painter.translate(0, 2 * step);
+  painter.scale(scale, scale);
+  Paint(painter, picture);
+}
+
+void QtPrinter::OnPages(const std::function<void(QPrinter& printer)>& draw) {
   QPrinter printer(QPrinter::HighResolution);
+  printer.setPageOrientation(QPageLayout::Portrait);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   if (runner_.Converse(dialog) == QDialog::Accepted) {
-    PrintPages(printer, lines);
+    draw(printer);
   }
+}
+
+void QtPrinter::Print(const PrintJob& job) {
+  OnPages([&](QPrinter& printer) { PrintPages(printer, job); });
+}
+
+void QtPrinter::PrintPicture(const std::string& title, const Picture& picture) {
+  OnPages([&](QPrinter& printer) { PrintPicturePage(printer, title, picture); });
 }
 
 }  // namespace velmar

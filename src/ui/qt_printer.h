@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/printer.h"
 
 class QPrinter;
@@ -16,14 +18,20 @@ class QtPrinter : public Printer {
 
   /// Always: without a printer the dialog still offers a PDF file.
   bool Installed() override { return true; }
-  void Print(const std::vector<std::string>& lines) override;
+  void Print(const PrintJob& job) override;
+  void PrintPicture(const std::string& title, const Picture& picture) override;
 
  private:
+  void OnPages(const std::function<void(QPrinter& printer)>& draw);
+
   EventRunner& runner_;
 };
 
-/// Draws lines on the pages of a printer that is set up, in a font of one width that lets the
-/// longest one fit. Raises error 57 when no page came out.
-void PrintPages(QPrinter& printer, const std::vector<std::string>& lines);
+/// Draws text on the pages of a printer that is set up, in a font of one width, the letters so much
+/// smaller than told that the longest line fits. Raises error 57 when no page came out.
+void PrintPages(QPrinter& printer, const PrintJob& job);
+
+/// Draws a picture over the width of a page, its title above it. Errors as above.
+void PrintPicturePage(QPrinter& printer, const std::string& title, const Picture& picture);
 
 }  // namespace velmar

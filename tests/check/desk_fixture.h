@@ -155,12 +155,13 @@ struct DeskFixture {
   FakeMachine machine;
   FakeWeb web;
   RecordingPrinter printer;
+  RecordingPictures pictures;
   ContestSession session{workspace.paths().base()};
   Screen screen;
   MainForm main;
   ContestStore store{files, session.workspace};
   CheckForm form;
-  CheckDesk desk{session, {files, manager, clock, machine, web, printer}, store, screen, main,
+  CheckDesk desk{session, {files, manager, clock, machine, web, printer, pictures}, store, screen, main,
                  form};
 };
 

@@ -227,8 +227,8 @@ TEST(ErrorReport, TheListIsPrintedLineByLine) {
   desk.Decide(desk.form.not_inlog);
   desk.form.stampa_errori.Click();
   ASSERT_EQ(desk.printer.printed.size(), 1U);
-  EXPECT_EQ(desk.printer.printed[0].size(), 7U);
-  EXPECT_EQ(desk.printer.printed[0].back(),
+  EXPECT_EQ(desk.printer.printed[0].at(0).lines.size(), 7U);
+  EXPECT_EQ(desk.printer.printed[0].at(0).lines.back(),
             "  1    I1QXX       002    NOT IN LOG        JN44BB                 -107 ");
   desk.printer.installed = false;
   desk.form.stampa_errori.Click();

@@ -430,8 +430,9 @@ TEST(Queue, IsPrinted) {
   desk.Loaded();
   Press(desk.form.stampa_classifica_di_banda);
   ASSERT_EQ(desk.printer.printed.size(), 1U);
-  EXPECT_EQ(desk.printer.printed[0], (Names{kHeader, Join(kFiled[0], " 1"), Join(kFiled[1], " 2"),
-                                            Join(kFiled[2], " 3"), Join(kFiled[3], " 4")}));
+  EXPECT_EQ(desk.printer.printed[0].at(0).lines,
+            (Names{kHeader, Join(kFiled[0], " 1"), Join(kFiled[1], " 2"), Join(kFiled[2], " 3"),
+                   Join(kFiled[3], " 4")}));
 }
 
 }  // namespace

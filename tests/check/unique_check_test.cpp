@@ -550,9 +550,12 @@ TEST(UniqueCheck, TheManagerIsAskedToWaitDuringTheSearch) {
   CheckForm form;
   manager.form = &form;
   CheckDesk watched{
-      desk.session, {desk.files, manager, desk.clock, desk.machine, desk.web, desk.printer},
-      desk.store,   desk.screen,
-      desk.main,    form};
+      desk.session,
+      {desk.files, manager, desk.clock, desk.machine, desk.web, desk.printer, desk.pictures},
+      desk.store,
+      desk.screen,
+      desk.main,
+      form};
   watched.Open();
   form.Option3.Click();
   form.listacall_banda.selection = 1;

@@ -30,14 +30,14 @@ constexpr const char* kClassification =
 /// One run of the program up to the end of its start.
 struct StartedProgram {
   StartedProgram(const std::string& base, FileSystem& files, Manager& manager, Clock& clock,
-                 Machine& machine, Web& web, Printer& printer)
+                 Machine& machine, Web& web, Printer& printer, PictureFiles& pictures)
       : session(base),
         trap(manager),
         config(session, files, manager, trap, screen, main, check),
         dialog(session, files, manager, trap, clock, screen, main, config),
         months(session, files, manager, trap, clock),
-        start(session, {files, manager, clock, machine, web, printer}, trap, screen, main, info,
-              months, dialog) {
+        start(session, {files, manager, clock, machine, web, printer, pictures}, trap, screen, main,
+              info, months, dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &dialog.form(), &config.form()}) {
       screen.Add(*form);
     }
@@ -69,7 +69,7 @@ class StartUpTest : public testing::Test {
  protected:
   StartedProgram& Start() {
     run = std::make_unique<StartedProgram>(workspace.paths().base(), files, manager, clock, machine,
-                                           web, printer);
+                                           web, printer, pictures);
     return *run;
   }
 
@@ -86,6 +86,7 @@ class StartUpTest : public testing::Test {
   FakeMachine machine;
   FakeWeb web;
   test::RecordingPrinter printer;
+  test::RecordingPictures pictures;
   std::unique_ptr<StartedProgram> run;
 };
 
@@ -239,7 +240,7 @@ TEST_F(StartUpTest, SystemsAndDatesThatAreRefused) {
 TEST_F(StartUpTest, RootsOfDrivesAreRefused) {
   for (const auto& [base, last] : std::map<std::string, std::string>{
            {"D:\\", "crea una directory e posta il programma"}, {"A:\\", "questo Drive"}}) {
-    StartedProgram at_root(base, files, manager, clock, machine, web, printer);
+    StartedProgram at_root(base, files, manager, clock, machine, web, printer, pictures);
     EXPECT_TRUE(at_root.ended);
     EXPECT_TRUE(manager.boxes.back().lines[0].ends_with(last));
   }

@@ -134,10 +134,36 @@ class FakeWeb : public Web {
 class RecordingPrinter : public Printer {
  public:
   bool Installed() override { return installed; }
-  void Print(const std::vector<std::string>& lines) override { printed.push_back(lines); }
+  void Print(const PrintJob& job) override {
+    Look();
+    printed.push_back(job);
+  }
+  void PrintPicture(const std::string& title, const Picture& picture) override {
+    Look();
+    pictures.emplace_back(title, picture.shapes().size());
+  }
 
   bool installed = true;
-  std::vector<std::vector<std::string>> printed;
+  bool broken = false;  ///< no page comes out
+  std::vector<PrintJob> printed;
+  std::vector<std::pair<std::string, std::size_t>> pictures;  ///< title and number of shapes
+
+ private:
+  void Look() const {
+    if (broken) {
+      throw RunTimeError(ErrorNumber::kDeviceError);
+    }
+  }
+};
+
+/// Keeps what would have been saved.
+class RecordingPictures : public PictureFiles {
+ public:
+  void Save(const Picture& picture, const std::string& path) override {
+    saved.emplace_back(path, picture);
+  }
+
+  std::vector<std::pair<std::string, Picture>> saved;
 };
 
 /// A file system that breaks at a chosen call. It passes all others on.

@@ -18,7 +18,8 @@ struct PdfFixture {
   void Print(const QString& path, int lines) {
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);
-    PrintPages(printer, std::vector<std::string>(static_cast<std::size_t>(lines), "IK2QAA"));
+    PrintPages(printer,
+               {{.lines = std::vector<std::string>(static_cast<std::size_t>(lines), "IK2QAA")}});
   }
 
   /// Prints a number of lines and counts the pages that came out.

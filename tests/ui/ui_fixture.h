@@ -31,8 +31,9 @@ struct DesktopFixture {
   FakeMachine machine;
   FakeWeb web;
   RecordingPrinter printer;
+  RecordingPictures pictures;
   Program program{workspace.paths().base(),
-                  {workspace.files(), manager, clock, machine, web, printer}};
+                  {workspace.files(), manager, clock, machine, web, printer, pictures}};
   Desktop desktop{program, runner, manager};
 
   FormWindow& Window(Form& form) { return *desktop.WindowOf(form); }

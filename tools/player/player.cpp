@@ -65,7 +65,9 @@ Player::Player(const std::string& workspace, std::ostream& out, std::ostream& er
       clock_(facts_),
       machine_(facts_),
       web_(facts_, [this](const JsonRecord& record) { Record(record); }),
-      printer_(facts_, [this](const JsonRecord& record) { Record(record); }) {}
+      printer_(facts_, [this](const JsonRecord& record) { Record(record); }),
+      picture_files_(files_),
+      pictures_(picture_files_, [this](const JsonRecord& record) { Record(record); }) {}
 
 PlayResult Player::Play(std::istream& script) {
   std::string line;
@@ -183,8 +185,8 @@ bool Player::QueueAnswer(const std::string& word, const std::string& rest) {
 }
 
 void Player::Start(const std::string& /*rest*/) {
-  program_ = std::make_unique<Program>(workspace_,
-                                       Ports{files_, manager_, clock_, machine_, web_, printer_});
+  program_ = std::make_unique<Program>(
+      workspace_, Ports{files_, manager_, clock_, machine_, web_, printer_, pictures_});
   program_->screen().on_visibility = [this](const Form& form) {
     Record(JsonRecord().Text("form", form.name()).Flag("visible", form.visible()));
   };

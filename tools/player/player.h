@@ -12,6 +12,7 @@
 #include "app/program.h"
 #include "platform/disk_file_system.h"
 #include "player/script_ports.h"
+#include "ui/qt_picture_files.h"
 
 namespace velmar {
 
@@ -84,6 +85,8 @@ class Player {
   ScriptMachine machine_;
   ScriptWeb web_;
   ScriptPrinter printer_;
+  QtPictureFiles picture_files_;
+  ScriptPictures pictures_;
   std::unique_ptr<Program> program_;
   bool forced_ = false;  ///< the command in hand reaches controls that a person could not
 };

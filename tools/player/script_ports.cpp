@@ -92,7 +92,7 @@ std::optional<std::string> ScriptManager::Ask(const InputBox& box) {
 std::optional<std::string> ScriptManager::PickFile(const FileDialog& dialog) {
   const Answer answer = Take(AnswerKind::kFile, "file dialog: " + Utf8FromAnsi(dialog.filter));
   sink_(JsonRecord()
-            .Text("file", "open")
+            .Text("file", dialog.new_ending.empty() ? "open" : "save")
             .Text("title", dialog.title)
             .Text("filter", dialog.filter)
             .TextOrNull("reply", answer.text));
@@ -110,6 +110,14 @@ int ScriptMachine::WorkbookVersion() {
     throw RunTimeError(ErrorNumber::kNoApplication, "no workbook application");
   }
   return facts_.excel;
+}
+
+void ScriptPrinter::Print(const PrintJob& job) {
+  std::vector<std::string> lines;
+  for (const PrintedBlock& block : job) {
+    lines.insert(lines.end(), block.lines.begin(), block.lines.end());
+  }
+  sink_(JsonRecord().Texts("print", lines));
 }
 
 std::string ScriptWeb::Fetch(const std::string& url) {

@@ -112,12 +112,27 @@ class ScriptPrinter : public Printer {
   ScriptPrinter(const MachineFacts& facts, RecordSink sink)
       : facts_(facts), sink_(std::move(sink)) {}
   bool Installed() override { return facts_.printer; }
-  void Print(const std::vector<std::string>& lines) override {
-    sink_(JsonRecord().Texts("print", lines));
+  void Print(const PrintJob& job) override;
+  void PrintPicture(const std::string& title, const Picture& /*picture*/) override {
+    Print({{.lines = {title}}});
   }
 
  private:
   const MachineFacts& facts_;
+  RecordSink sink_;
+};
+
+/// Tells of each picture that was kept as a file.
+class ScriptPictures : public PictureFiles {
+ public:
+  ScriptPictures(PictureFiles& files, RecordSink sink) : files_(files), sink_(std::move(sink)) {}
+  void Save(const Picture& picture, const std::string& path) override {
+    files_.Save(picture, path);
+    sink_(JsonRecord().Text("picture", path));
+  }
+
+ private:
+  PictureFiles& files_;
   RecordSink sink_;
 };
 

@@ -1,0 +1,67 @@
+#include "ui/qt_picture_files.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <array>
+#include <cmath>
+#include <memory>
+
+#include "model/text.h"
+#include "platform/error.h"
+#include "ui/picture_painter.h"
+
+namespace velmar {
+
+namespace {
+
+struct Format {
+  const char* name;
+  double dots;  ///< a unit
+};
+
+Format FormatOf(const std::string& path) {
+  const std::string name = Lower(path);
+  if (name.ends_with(".bmp")) {
+    return {"BMP", 1};
+  }
+  if (name.ends_with(".png")) {
+    return {"PNG", 2};
+  }
+  throw RunTimeError(ErrorNumber::kInvalidCall, path);
+}
+
+/// Letters need the toolkit's fonts, which come with its application; where a program without
+/// windows has none, this one stands in for it.
+void NeedFonts() {
+  static int count = 3;
+  static std::array<char*, 4> arguments = {const_cast<char*>("velmar"),
+                                           const_cast<char*>("-platform"),
+                                           const_cast<char*>("offscreen"), nullptr};
+  static std::unique_ptr<QGuiApplication> application;
+  if (QCoreApplication::instance() == nullptr) {
+    application = std::make_unique<QGuiApplication>(count, arguments.data());
+  }
+}
+
+}  // namespace
+
+void QtPictureFiles::Save(const Picture& picture, const std::string& path) {
+  const Format format = FormatOf(path);
+  NeedFonts();
+  QImage image(static_cast<int>(std::ceil(picture.width() * format.dots)),
+               static_cast<int>(std::ceil(picture.height() * format.dots)), QImage::Format_RGB32);
+  QPainter painter(&image);
+  painter.scale(format.dots, format.dots);
+  Paint(painter, picture);
+  painter.end();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format.name)) {
+    throw RunTimeError(ErrorNumber::kDeviceError, path);
+  }
+  files_.WriteAll(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+}  // namespace velmar
