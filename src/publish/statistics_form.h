@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <functional>
+#include <string>
 
 #include "platform/ansi.h"
 #include "platform/form.h"
@@ -24,7 +27,7 @@ class StatisticsForm : public Form {
   Frame& Frame_testo = AddLabel("Frame_testo", "Statistiche");
   Button& calcola_qso = In(Frame_testo, AddButton("calcola_qso", "Calcola"));
   Combo& banda_qso = In(Frame_testo, AddCombo("banda_qso", {"2IT", "3IT", "2K3", "4IT", "5K7",
-                                                             "10G", "24G", "1EC", "1IT", "tutti"}));
+                                                            "10G", "24G", "1EC", "1IT", "tutti"}));
   Button& trova = In(Frame_testo, AddButton("trova", "Trova qso per call area"));
   Button& qso_est = In(Frame_testo, AddButton("qso_est", "Call collegati e in aria"));
 
@@ -60,9 +63,8 @@ class StatisticsForm : public Form {
 
   // The map.
   Frame& Frame_grafica = AddLabel("Frame_grafica", "Grafica");
-  Combo& frequenza =
-      In(Frame_grafica, AddCombo("frequenza", {"144", "432", "1296", "2320", "5760", "10 G",
-                                               "24 G", "50", "1EC"}));
+  Combo& frequenza = In(Frame_grafica, AddCombo("frequenza", {"144", "432", "1296", "2320", "5760",
+                                                              "10 G", "24 G", "50", "1EC"}));
   Button& mappa = In(Frame_grafica, AddButton("mappa", "mappa 1"));
   Frame& Frame_mappa = In(Frame_grafica, AddLabel("Frame_mappa", "Mappa"));
   Option& Option1 = AddMap("Option1", "Europa");
@@ -115,7 +117,14 @@ class StatisticsForm : public Form {
     return {&Option1, &Option2, &Option3, &Option4, &Option5, &Option6, &Option7};
   }
 
+  // The columns of the grids.
+  static constexpr std::size_t kTotalColumn = 15;  ///< of Grid_italia, behind the areas
+  static constexpr std::size_t kFirstCountryColumn = 6;
+  static constexpr std::size_t kOtherColumn = 55;  ///< of Grid_estero
+
  private:
+  void LabelItalia();
+  void LabelEstero();
   Option& AddMap(const std::string& name, const std::string& caption) {
     return In(Frame_mappa, AddOption(name, caption));
   }
