@@ -6,6 +6,8 @@
 #include "intake/recalculation.h"
 #include "intake/renaming.h"
 #include "model/contest_store.h"
+#include "publish/area_classifications.h"
+#include "publish/statistics.h"
 #include "session/config_dialog.h"
 #include "session/contest_session.h"
 #include "session/info_form.h"
@@ -30,17 +32,21 @@ struct Program::Modules {
         renaming(session, ports.files, ports.manager, screen, main),
         insertion(session, ports.files, ports.manager, store, months, main),
         desk(session, ports, store, screen, main, check),
+        area_classifications(session, ports.files, ports.manager, trap),
+        statistics(session, ports, screen, main, statistics_form, [] {}),
         info_window(screen, info),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); },
               .open_renaming = [this] { renaming.Open(); },
               .open_check = [this] { desk.Open(); },
-              .open_info = [this] { info_window.Open(); }}),
+              .open_info = [this] { info_window.Open(); },
+              .classify_areas = [this] { area_classifications.cla_x_callarea_Click(); },
+              .open_statistics = [this] { statistics.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
     for (Form* form : std::initializer_list<Form*>{
              &main, &month_dialog.form(), &config.form(), &recalculation.form(), &renaming.form(),
-             &check, &desk.archive_form(), &desk.notices_form(), &info}) {
+             &check, &statistics_form, &desk.archive_form(), &desk.notices_form(), &info}) {
       screen.Add(*form);
     }
   }
@@ -49,6 +55,7 @@ struct Program::Modules {
   ContestSession session;
   MainForm main;
   CheckForm check;
+  StatisticsForm statistics_form;
   InfoForm info;
   ContestStore store;
   MenuTrap trap;
@@ -59,6 +66,8 @@ struct Program::Modules {
   Renaming renaming;
   Insertion insertion;
   CheckDesk desk;
+  AreaClassifications area_classifications;
+  Statistics statistics;
   InfoWindow info_window;
   Leaving leaving;
   MainMenu menu;
@@ -100,6 +109,10 @@ Renaming& Program::renaming() {
 
 CheckDesk& Program::check_desk() {
   return modules_->desk;
+}
+
+StatisticsForm& Program::statistics_form() {
+  return modules_->statistics_form;
 }
 
 InfoForm& Program::info_form() {

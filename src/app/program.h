@@ -15,6 +15,7 @@ class MainForm;
 class MonthDialog;
 class Recalculation;
 class Renaming;
+class StatisticsForm;
 
 /// The whole program without a front end: makes the modules, hands them their ports, and joins the
 /// menu to the steps. A front end shows the forms of the screen and calls their events. Any event
@@ -39,6 +40,7 @@ class Program {
   Recalculation& recalculation();
   Renaming& renaming();
   CheckDesk& check_desk();
+  StatisticsForm& statistics_form();
   InfoForm& info_form();
 
  private:

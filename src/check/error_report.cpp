@@ -3,6 +3,7 @@
 #include "model/classification_row.h"
 #include "model/lines.h"
 #include "model/text.h"
+#include "session/failure.h"
 
 namespace velmar {
 
@@ -141,7 +142,7 @@ void ErrorReport::List_errori_Click() {
 
 void ErrorReport::stampa_errori_Click() {
   if (!printer_.Installed()) {
-    manager_.Show({.lines = {" Nessuna stampante installata. "}});
+    manager_.Show(NoPrinterBox());
   } else if (!state_.call_in_esame.empty()) {
     printer_.Print({{.lines = LinesOf(files_.ReadAll(Path()))}});
   }

@@ -31,17 +31,4 @@ LibrarySplit SplitLibrary(std::string_view library, std::string_view call) {
   return split;
 }
 
-std::string RowsText(const std::vector<std::string_view>& rows) {
-  std::size_t size = 0;
-  for (const std::string_view row : rows) {
-    size += row.size() + kLineEnd.size();
-  }
-  std::string text;
-  text.reserve(size);
-  for (const std::string_view row : rows) {
-    AddLine(text, row);
-  }
-  return text;
-}
-
 }  // namespace velmar

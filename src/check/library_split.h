@@ -20,7 +20,4 @@ inline constexpr std::size_t kMostLibraryRows = 370'000;
 /// and rows of deleted or wrong QSOs are left out. More rows than a library may have raise error 9.
 LibrarySplit SplitLibrary(std::string_view library, std::string_view call);
 
-/// The rows, each with its line end.
-std::string RowsText(const std::vector<std::string_view>& rows);
-
 }  // namespace velmar

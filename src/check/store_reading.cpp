@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
 
@@ -25,8 +26,8 @@ bool StoreReading::Split(const SplitNames& names,
   write("libreria.tmp", state_.library);
   state_.qsos = SplitLibrary(state_.library, state_.call_in_esame);
   progress(2);
-  write(Join(state_.categoria, names.log), RowsText(state_.qsos.log));
-  write(Join(state_.categoria, names.others), RowsText(state_.qsos.others));
+  write(Join(state_.categoria, names.log), TextOfLines(state_.qsos.log));
+  write(Join(state_.categoria, names.others), TextOfLines(state_.qsos.others));
   progress(3);
   return true;
 }

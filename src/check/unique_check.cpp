@@ -9,6 +9,7 @@
 #include "check/unique_calls.h"
 #include "check/waiting.h"
 #include "model/call_book.h"
+#include "model/lines.h"
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -420,7 +421,7 @@ void UniqueCheck::cerca_probabile_Click() {
     }
   }
   files_.WriteAll(session_.workspace.scratch(Join(state_.categoria, "call_in_stesso_locatore.tmp")),
-                  RowsText(nearby));
+                  TextOfLines(nearby));
   const auto found = std::ranges::find_if(nearby, [&item](std::string_view row) {
     return FitsWithOneGap(Trim(Cut(row, qso_line::kCall)), item->call, kPatterns);
   });

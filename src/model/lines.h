@@ -46,6 +46,21 @@ void FillWithLines(Table& table, std::string_view text) {
   }
 }
 
+/// A text of lines, each with its line end.
+template <typename Lines>
+std::string TextOfLines(const Lines& lines) {
+  std::size_t size = 0;
+  for (const std::string_view line : lines) {
+    size += line.size() + kLineEnd.size();
+  }
+  std::string text;
+  text.reserve(size);
+  for (const std::string_view line : lines) {
+    AddLine(text, line);
+  }
+  return text;
+}
+
 /// The last line of a text; empty when it has none.
 std::string_view LastLine(std::string_view text);
 

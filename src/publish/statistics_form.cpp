@@ -16,7 +16,10 @@ StatisticsForm::StatisticsForm()
   LabelEstero();
   Grid_field.Shape(2, kFields.size() + 1);
   for (std::size_t column = 0; column < kFields.size(); ++column) {
-    Grid_field.Set(0, column, kFields[column]);
+    const std::string field(kFields[column]);
+    Grid_field.Set(0, column, field);
+    field_labels_.at(column) = &In(Frame_mappa, AddLabel("Label_" + field, field));
+    field_labels_.at(column)->visible = false;
   }
   Grid_field.Set(0, kFields.size(), "Totale");
   banda_qso.value = "2IT";

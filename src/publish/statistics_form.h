@@ -8,11 +8,14 @@
 #include "platform/ansi.h"
 #include "platform/form.h"
 #include "platform/picture.h"
+#include "publish/field_counters.h"
 
 namespace velmar {
 
 /// The window of the statistics: the counts of the contest, and the map that they are drawn on.
 class StatisticsForm : public Form {
+  std::array<Label*, kFields.size()> field_labels_{};
+
  public:
   StatisticsForm();
 
@@ -21,6 +24,10 @@ class StatisticsForm : public Form {
   Menu& Modo = AddMenu("Modo", "&Modo");
   Menu& Testo = AddMenu("Testo", "&Testo", &Modo);
   Menu& Grafica = AddMenu("Grafica", "&Grafica", &Modo);
+  Menu& menu_mappa = AddMenu("menu_mappa", "Ma&ppa");
+  Menu& esegui2 = AddMenu("esegui2", "Esegui", &menu_mappa);
+  Menu& linee2 = AddMenu("linee2", "Field", &menu_mappa);
+  Menu& Reset = AddMenu("Reset", "Reset", &menu_mappa);
   Menu& Assenti = AddMenu("Assenti", "&Assenti");
 
   // The runs.
@@ -81,13 +88,10 @@ class StatisticsForm : public Form {
   Check& Check_line = In(Frame_mappa, AddCheck("Check_line", "Linee"));
   Check& Check_tutti = In(Frame_mappa, AddCheck("Check_tutti", "Tutti"));
   Button& esegui = In(Frame_mappa, AddButton("esegui", "Esegui"));
-  Button& esegui2 = In(Frame_grafica, AddButton("esegui2", "Esegui"));
   Button& linee = In(Frame_mappa, AddButton("linee", "Field"));
-  Button& linee2 = In(Frame_grafica, AddButton("linee2", "Field"));
   Button& squares_old = In(Frame_mappa, AddButton("squares_old", "squares old"));
   Button& illustra = In(Frame_mappa, AddButton("illustra", "Ridisegna"));
   Button& resetta = In(Frame_mappa, AddButton("resetta", "Reset"));
-  Button& Reset = In(Frame_grafica, AddButton("Reset", "Reset"));
 
   Label& titolo = In(Frame_mappa, AddLabel("titolo"));
   Label& squares_collegati = In(Frame_mappa, AddLabel("squares_collegati"));
@@ -103,6 +107,9 @@ class StatisticsForm : public Form {
   List& List2 = In(Frame_mappa, AddList("List2"));
 
   Button& usci = AddButton("usci", "&Esci");
+
+  /// The names of the fields, which lie on the general map, in the order of kFields.
+  const std::array<Label*, kFields.size()>& field_labels() const { return field_labels_; }
 
   /// The chosen map with all that was drawn on it, as it is to be seen, printed and saved: its
   /// background, the marks, and the label where one is shown.

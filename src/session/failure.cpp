@@ -9,4 +9,8 @@ Box FailureBox(const RunTimeError& error, int step, std::string_view tag) {
                          " nella linea : ", step, tag)}};
 }
 
+Box NoPrinterBox() {
+  return {.lines = {" Nessuna stampante installata. "}};
+}
+
 }  // namespace velmar

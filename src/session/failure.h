@@ -11,4 +11,7 @@ namespace velmar {
 /// behind it, the module first.
 Box FailureBox(const RunTimeError& error, int step, std::string_view tag);
 
+/// That there is nothing to print on.
+Box NoPrinterBox();
+
 }  // namespace velmar

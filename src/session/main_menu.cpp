@@ -23,6 +23,8 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   OnClick(form.Inserire_log, &MainMenu::Inserire_log_Click);
   OnClick(form.controlla_locatori, &MainMenu::controlla_locatori_Click);
   OnClick(form.Info, &MainMenu::Info_Click);
+  OnClick(form.cla_x_callarea, &MainMenu::cla_x_callarea_Click);
+  OnClick(form.statistiche, &MainMenu::statistiche_Click);
   OnClick(form.CLA_mese_excel, &MainMenu::CLA_mese_excel_Click);
   OnClick(form.Elimina_log, &MainMenu::Elimina_log_Click);
   OnClick(form.vis_puls, &MainMenu::vis_puls_Click);
@@ -88,6 +90,15 @@ void MainMenu::controlla_locatori_Click() {
 
 void MainMenu::Info_Click() {
   steps_.open_info();
+}
+
+void MainMenu::cla_x_callarea_Click() {
+  steps_.classify_areas();
+}
+
+void MainMenu::statistiche_Click() {
+  screen_.Hide(form_);
+  steps_.open_statistics();
 }
 
 void MainMenu::ControllaCla() {

@@ -18,6 +18,8 @@ struct MenuSteps {
   std::function<void()> open_renaming{};
   std::function<void()> open_check{};
   std::function<void()> open_info{};
+  std::function<void()> classify_areas{};
+  std::function<void()> open_statistics{};
 };
 
 /// The menu and the small controls of the main screen.
@@ -34,6 +36,8 @@ class MainMenu {
   /// Opens the check desk, which takes this screen's place when it is ready.
   void controlla_locatori_Click();
   void Info_Click();
+  void cla_x_callarea_Click();
+  void statistiche_Click();
   void CLA_mese_excel_Click();
   void Elimina_log_Click();
   void vis_puls_Click();

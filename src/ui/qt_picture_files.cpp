@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
+#include <QLoggingCategory>
 #include <QPainter>
 #include <array>
 #include <cmath>
@@ -41,6 +42,7 @@ void NeedFonts() {
                                            const_cast<char*>("offscreen"), nullptr};
   static std::unique_ptr<QGuiApplication> application;
   if (QCoreApplication::instance() == nullptr) {
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));  // of a bare machine
     application = std::make_unique<QGuiApplication>(count, arguments.data());
   }
 }

@@ -19,8 +19,14 @@ namespace {
 
 constexpr double kSmallestPoints = 4;
 constexpr int kTitlePoints = 14;
+constexpr double kMarginMillimetres = 12;
 
+/// Starts a page with margins as a binder wants them: those of printers are the least they can do.
 void Begin(QPainter& painter, QPrinter& printer) {
+  const QMarginsF given = printer.pageLayout().margins(QPageLayout::Millimeter);
+  const QMarginsF wanted(kMarginMillimetres, kMarginMillimetres, kMarginMillimetres,
+                         kMarginMillimetres);
+  printer.setPageMargins(given | wanted, QPageLayout::Millimeter);
   if (!painter.begin(&printer)) {
     throw RunTimeError(ErrorNumber::kDeviceError, "the printer");
   }
@@ -70,20 +76,24 @@ void PrintPages(QPrinter& printer, const PrintJob& job) {
 void PrintPicturePage(QPrinter& printer, const std::string& title, const Picture& picture) {
   QPainter painter;
   Begin(painter, printer);
-  painter.setFont(FontOf(kTitlePoints));
+  QFont font = QApplication::font();
+  font.setPointSizeF(kTitlePoints);
+  painter.setFont(font);
   const double step = painter.fontMetrics().lineSpacing();
-  painter.drawText(QPointF(0, step), ToShownRow(title));
   const QRectF page = printer.pageRect(QPrinter::DevicePixel);
+  painter.drawText(QRectF(0, 0, page.width(), step), Qt::AlignHCenter, ToShownRow(title));
+  const double top = 1.5 * step;
   const double scale =
-      std::min(page.width() / picture.width(), (page.height() - 2 * step) / picture.height());
-  painter.translate(0, 2 * step);
+      std::min(page.width() / picture.width(), (page.height() - top) / picture.height());
+  painter.translate((page.width() - scale * picture.width()) / 2, top);
   painter.scale(scale, scale);
   Paint(painter, picture);
 }
 
-void QtPrinter::OnPages(const std::function<void(QPrinter& printer)>& draw) {
+void QtPrinter::OnPages(QPageLayout::Orientation orientation,
+                        const std::function<void(QPrinter& printer)>& draw) {
   QPrinter printer(QPrinter::HighResolution);
-  printer.setPageOrientation(QPageLayout::Portrait);
+  printer.setPageOrientation(orientation);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   if (runner_.Converse(dialog) == QDialog::Accepted) {
     draw(printer);
@@ -91,11 +101,13 @@ void QtPrinter::OnPages(const std::function<void(QPrinter& printer)>& draw) {
 }
 
 void QtPrinter::Print(const PrintJob& job) {
-  OnPages([&](QPrinter& printer) { PrintPages(printer, job); });
+  OnPages(QPageLayout::Portrait, [&](QPrinter& printer) { PrintPages(printer, job); });
 }
 
 void QtPrinter::PrintPicture(const std::string& title, const Picture& picture) {
-  OnPages([&](QPrinter& printer) { PrintPicturePage(printer, title, picture); });
+  const bool wide = picture.width() > picture.height();
+  OnPages(wide ? QPageLayout::Landscape : QPageLayout::Portrait,
+          [&](QPrinter& printer) { PrintPicturePage(printer, title, picture); });
 }
 
 }  // namespace velmar

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPageLayout>
 #include <functional>
 
 #include "platform/printer.h"
@@ -22,16 +23,19 @@ class QtPrinter : public Printer {
   void PrintPicture(const std::string& title, const Picture& picture) override;
 
  private:
-  void OnPages(const std::function<void(QPrinter& printer)>& draw);
+  void OnPages(QPageLayout::Orientation orientation,
+               const std::function<void(QPrinter& printer)>& draw);
 
   EventRunner& runner_;
 };
 
 /// Draws text on the pages of a printer that is set up, in a font of one width, the letters so much
-/// smaller than told that the longest line fits. Raises error 57 when no page came out.
+/// smaller than told that the longest line fits. Small margins are widened. Raises error 57 when no
+/// page came out.
 void PrintPages(QPrinter& printer, const PrintJob& job);
 
-/// Draws a picture over the width of a page, its title above it. Errors as above.
+/// Draws a picture as large as it fits a page, in the middle of its width, the title above it.
+/// Errors as above.
 void PrintPicturePage(QPrinter& printer, const std::string& title, const Picture& picture);
 
 }  // namespace velmar

@@ -51,11 +51,6 @@ TEST(LibrarySplit, ShortWrongAndDeletedRowsCountNowhere) {
   EXPECT_TRUE(split.others.empty());
 }
 
-TEST(LibrarySplit, RowsAreWrittenWithTheirLineEnds) {
-  EXPECT_EQ(RowsText({}), "");
-  EXPECT_EQ(RowsText({"a", "", "b"}), "a\r\n\r\nb\r\n");
-}
-
 TEST(LibrarySplit, OnlyRowsThatCountFillTheTable) {
   const std::string other = Owned("IZ9QBC");
   std::string text;

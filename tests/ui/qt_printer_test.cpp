@@ -38,7 +38,7 @@ TEST(QtPrinter, LinesFlowOverPages) {
   EXPECT_EQ(fixture.PagesOf(1), 1);
   const qsizetype pages = fixture.PagesOf(200);
   EXPECT_GT(pages, 1);
-  EXPECT_EQ(fixture.PagesOf(400), 2 * pages) << "a page holds what its room allows";
+  EXPECT_NEAR(fixture.PagesOf(400), 2 * pages, 1) << "the last page may be short";
 }
 
 TEST(QtPrinter, APathThatCannotBeWrittenIsAnError) {

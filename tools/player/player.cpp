@@ -67,7 +67,7 @@ Player::Player(const std::string& workspace, std::ostream& out, std::ostream& er
       web_(facts_, [this](const JsonRecord& record) { Record(record); }),
       printer_(facts_, [this](const JsonRecord& record) { Record(record); }),
       picture_files_(files_),
-      pictures_(picture_files_, [this](const JsonRecord& record) { Record(record); }) {}
+      pictures_(workspace, picture_files_, [this](const JsonRecord& record) { Record(record); }) {}
 
 PlayResult Player::Play(std::istream& script) {
   std::string line;

@@ -120,6 +120,12 @@ void ScriptPrinter::Print(const PrintJob& job) {
   sink_(JsonRecord().Texts("print", lines));
 }
 
+void ScriptPictures::Save(const Picture& picture, const std::string& path) {
+  files_.Save(picture, path);
+  const std::string inside = folder_ + "/";
+  sink_(JsonRecord().Text("picture", path.starts_with(inside) ? path.substr(inside.size()) : path));
+}
+
 std::string ScriptWeb::Fetch(const std::string& url) {
   if (!facts_.online || !facts_.version) {
     throw RunTimeError(ErrorNumber::kDeviceError, url);

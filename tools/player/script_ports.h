@@ -125,13 +125,13 @@ class ScriptPrinter : public Printer {
 /// Tells of each picture that was kept as a file.
 class ScriptPictures : public PictureFiles {
  public:
-  ScriptPictures(PictureFiles& files, RecordSink sink) : files_(files), sink_(std::move(sink)) {}
-  void Save(const Picture& picture, const std::string& path) override {
-    files_.Save(picture, path);
-    sink_(JsonRecord().Text("picture", path));
-  }
+  /// `folder` is what the paths are told relative to.
+  ScriptPictures(std::string folder, PictureFiles& files, RecordSink sink)
+      : folder_(std::move(folder)), files_(files), sink_(std::move(sink)) {}
+  void Save(const Picture& picture, const std::string& path) override;
 
  private:
+  std::string folder_;
   PictureFiles& files_;
   RecordSink sink_;
 };
