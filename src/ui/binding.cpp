@@ -14,6 +14,7 @@
 #include <limits>
 
 #include "model/text.h"
+#include "ui/click_label.h"
 #include "ui/event_runner.h"
 #include "ui/qt_text.h"
 #include "ui/tab_stops.h"
@@ -124,6 +125,13 @@ BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner) {
   return std::make_unique<LabelBinding>(widget, control, runner, [&widget, &control] {
     SetText(widget, ToShownRow(control.caption));
   });
+}
+
+BindingPtr Bind(ClickLabel& widget, Label& control, EventRunner& runner) {
+  widget.on_key_press = [&control, &runner] {
+    Act(runner, control, [](Control& pressed) { pressed.Click(); });
+  };
+  return Bind(static_cast<QLabel&>(widget), control, runner);
 }
 
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner) {

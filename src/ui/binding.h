@@ -22,6 +22,7 @@ class QWidget;
 
 namespace velmar {
 
+class ClickLabel;
 class EventRunner;
 class RowView;
 
@@ -59,6 +60,7 @@ BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner);
 BindingPtr Bind(QCheckBox& widget, Check& control, EventRunner& runner);
 BindingPtr Bind(QRadioButton& widget, Option& control, EventRunner& runner);
 BindingPtr Bind(QLabel& widget, Label& control, EventRunner& runner);
+BindingPtr Bind(ClickLabel& widget, Label& control, EventRunner& runner);
 BindingPtr Bind(QComboBox& widget, Combo& control, EventRunner& runner);
 BindingPtr Bind(RowView& widget, FileList& control, EventRunner& runner);
 BindingPtr Bind(QProgressBar& widget, ProgressBar& control, EventRunner& runner);
@@ -66,8 +68,12 @@ BindingPtr Bind(QProgressBar& widget, ProgressBar& control, EventRunner& runner)
 /// A list. `caption`, if any, shows the control's caption above it, and is seen with it.
 BindingPtr Bind(RowView& widget, List& control, EventRunner& runner, QLabel* caption = nullptr);
 
-/// A grid: its first row and first column are the headings.
-BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner);
+/// What stands in the first column of a grid.
+enum class FirstColumn { kHeadings, kCells };
+
+/// A grid: its first row, and its first column unless that holds cells, are the headings.
+BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner,
+                FirstColumn first = FirstColumn::kHeadings);
 
 /// The title of a frame is a label too.
 BindingPtr Bind(QGroupBox& widget, Label& control, EventRunner& runner);

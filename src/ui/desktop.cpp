@@ -7,6 +7,7 @@
 #include "check/check_desk.h"
 #include "intake/renaming.h"
 #include "platform/ansi.h"
+#include "publish/statistics_form.h"
 #include "session/info_form.h"
 #include "ui/archive_window.h"
 #include "ui/check_window.h"
@@ -19,6 +20,7 @@
 #include "ui/notices_window.h"
 #include "ui/recalculation_window.h"
 #include "ui/renaming_window.h"
+#include "ui/statistics_window.h"
 
 namespace velmar {
 
@@ -32,6 +34,7 @@ Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
   Add(std::make_unique<CheckWindow>(program.check_desk().form(), runner));
   Add(std::make_unique<ArchiveWindow>(program.check_desk().archive_form(), runner));
   Add(std::make_unique<NoticesWindow>(program.check_desk().notices_form(), runner));
+  Add(std::make_unique<StatisticsWindow>(program.statistics_form(), runner));
   Add(std::make_unique<InfoPage>(program.info_form(), runner));
   program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };
   runner.on_refresh = [this] { Refresh(); };

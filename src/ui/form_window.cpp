@@ -15,6 +15,7 @@
 #include "ui/column_titles.h"
 #include "ui/emblem.h"
 #include "ui/event_runner.h"
+#include "ui/grid_view.h"
 #include "ui/look.h"
 #include "ui/path_view.h"
 #include "ui/qt_text.h"
@@ -97,6 +98,12 @@ FormWindow::Columns FormWindow::MakeColumns(List& control) {
   SetQuiet(*columns.titles);
   AddBinding(Bind(*columns.rows, control, runner_, columns.titles));
   return columns;
+}
+
+GridView* FormWindow::MakeGridView(Grid& control, FirstColumn first) {
+  auto* view = new GridView;
+  AddBinding(Bind(*view, control, runner_, first));
+  return view;
 }
 
 QLabel* FormWindow::MakeLamp(Label& control) {

@@ -13,6 +13,7 @@ class QKeySequence;
 namespace velmar {
 
 class ColumnTitles;
+class GridView;
 
 /// The window of a form: owns what binds its widgets to the controls. Its title, its controls and
 /// the focus are the form's; a window of a form adds the layout.
@@ -60,6 +61,9 @@ class FormWindow : public QMainWindow {
     RowView* rows;
   };
   Columns MakeColumns(List& control);
+
+  /// Makes a table of a few rows.
+  GridView* MakeGridView(Grid& control, FirstColumn first);
 
   QLabel* MakeLamp(Label& control);
   QLabel* MakeEmblem(Label& control);

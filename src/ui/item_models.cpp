@@ -67,8 +67,8 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
   return {};
 }
 
-GridModel::GridModel(const Control& control, QObject* parent)
-    : QAbstractTableModel(parent), control_(control) {}
+GridModel::GridModel(const Control& control, int heading_columns, QObject* parent)
+    : QAbstractTableModel(parent), control_(control), heading_columns_(heading_columns) {}
 
 bool GridModel::Refresh() {
   if (version_ == control_.items.version()) {
@@ -78,7 +78,9 @@ bool GridModel::Refresh() {
   version_ = control_.items.version();
   rows_ = std::max(0, static_cast<int>(control_.items.rows().size()) - 1);
   const std::string* heading = RowAt(control_, 0);
-  columns_ = heading == nullptr ? 0 : static_cast<int>(std::ranges::count(*heading, '\t'));
+  columns_ = heading == nullptr
+                 ? 0
+                 : static_cast<int>(std::ranges::count(*heading, '\t')) + 1 - heading_columns_;
   endResetModel();
   return true;
 }
@@ -102,14 +104,18 @@ QVariant GridModel::Cell(int row, int column) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
-  return role == Qt::DisplayRole ? Cell(index.row() + 1, index.column() + 1) : QVariant();
+  if (role == Qt::TextAlignmentRole) {
+    return Qt::AlignCenter;
+  }
+  return role == Qt::DisplayRole ? Cell(index.row() + 1, index.column() + heading_columns_)
+                                 : QVariant();
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole) {
     return {};
   }
-  return orientation == Qt::Horizontal ? Cell(0, section + 1) : Cell(section + 1, 0);
+  return orientation == Qt::Horizontal ? Cell(0, section + heading_columns_) : Cell(section + 1, 0);
 }
 
 }  // namespace velmar

@@ -33,10 +33,11 @@ class RowsModel : public QAbstractListModel {
   std::size_t widest_ = 0;  ///< characters
 };
 
-/// The rows of a grid, cut at their tabs. The first row and the first column are its headings.
+/// The rows of a grid, cut at their tabs. The first row holds its headings, and so does the first
+/// column where it has `heading_columns`, which is 1 or 0.
 class GridModel : public QAbstractTableModel {
  public:
-  GridModel(const Control& control, QObject* parent);
+  GridModel(const Control& control, int heading_columns, QObject* parent);
 
   /// Takes the rows in when they have changed since, and tells whether they had.
   bool Refresh();
@@ -50,6 +51,7 @@ class GridModel : public QAbstractTableModel {
   QVariant Cell(int row, int column) const;
 
   const Control& control_;
+  int heading_columns_;
   std::size_t version_ = 0;
   int rows_ = 0;
   int columns_ = 0;

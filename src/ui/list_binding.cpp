@@ -78,9 +78,11 @@ BindingPtr Bind(RowView& widget, FileList& control, EventRunner& runner) {
   return BindRows(widget, control, runner);
 }
 
-BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner) {
-  auto* model = new GridModel(control, &widget);
+BindingPtr Bind(QTableView& widget, Control& control, EventRunner& runner, FirstColumn first) {
+  const bool headings = first == FirstColumn::kHeadings;
+  auto* model = new GridModel(control, headings ? 1 : 0, &widget);
   widget.setFont(FixedFont());
+  widget.verticalHeader()->setVisible(headings);
   widget.setModel(model);
   widget.setTabKeyNavigation(false);
   widget.setSelectionBehavior(QTableView::SelectRows);
