@@ -158,9 +158,8 @@ std::string CallsWorked::CountsText(const Counts& counts) const {
 
 /// The counts of the calls on the air, where the file of the band tells them; else they stay.
 void CallsWorked::TakeOnAir(const std::string& category) {
-  const auto* const band = std::ranges::find(kCategoryBands, category, &CategoryBand::category);
-  const std::string label(band == kCategoryBands.end() ? std::string_view(category)
-                                                       : band->band.label);
+  const Band* const band = BandOfCategory(category);
+  const std::string label(band == nullptr ? std::string_view(category) : band->label);
   for (const std::string_view line : CountedRows(files_, Published().band_counts(label))) {
     for (const CallArea area : kPrintedAreas) {
       if (Cut(line, kOnAirKey) == Join(kOnAirLine, NameOf(area))) {

@@ -78,12 +78,14 @@ struct GridPlace {
 };
 
 std::optional<GridPlace> Parse(std::string_view locator) {
-  if (locator.size() == 6 && locator.ends_with("  ")) {
-    locator.remove_suffix(2);
-  }
   constexpr std::string_view kLowest = "IF00AA";
   constexpr std::string_view kHighest = "KP99XX";
-  if (locator.size() != 4 && locator.size() != kLowest.size()) {
+  constexpr std::size_t kSquare = 4;
+  // Behind a locator of four characters a row goes on with a blank and the points.
+  if (locator.size() > kSquare && locator[kSquare] < 'A') {
+    locator = Left(locator, kSquare);
+  }
+  if (locator.size() != kSquare && locator.size() != kLowest.size()) {
     return std::nullopt;
   }
   for (std::size_t i = 0; i < locator.size(); ++i) {

@@ -50,10 +50,10 @@ const std::array<MapView, 7>& MapViews();
 /// Where a place on the earth lies on a map.
 Point ToMap(const MapView& view, const GeoPoint& geo);
 
-/// Where a locator lies on a map: the centre of a square by four characters (two blanks behind them
-/// do no harm), of a subsquare by six, all in capitals. Nothing for a text that is no locator or
-/// lies in a field that the maps don't know: they know I to K, and F to P. The place may be beyond
-/// the edges. South of the equator the general map has no even grid: see map_view.cpp.
+/// Where a locator lies on a map: the centre of a square by four characters (what is no letter
+/// behind them does no harm), of a subsquare by six, all in capitals. Nothing for a text that is no
+/// locator or lies in a field that the maps don't know: they know I to K, and F to P. The place may
+/// be beyond the edges. South of the equator the general map has no even grid: see map_view.cpp.
 std::optional<Point> PlaceOf(const MapView& view, std::string_view locator);
 
 /// The lines between fields on the general map, the lines of the grid on the others.

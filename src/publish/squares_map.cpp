@@ -82,8 +82,8 @@ PublishedFiles SquaresMap::Published() const {
   return {session_.workspace, session_.category_month};
 }
 
-std::string SquaresMap::Participants() const {
-  return session_.workspace.store_file(StoreFile::kPartecipanti, form_.banda_qso.value);
+std::string SquaresMap::Participants(std::string_view category) const {
+  return session_.workspace.store_file(StoreFile::kPartecipanti, category);
 }
 
 void SquaresMap::mappa_Click() {
@@ -102,9 +102,13 @@ void SquaresMap::ChooseMap(std::size_t map) {
   for (std::size_t i = 0; i < options.size(); ++i) {
     options.at(i)->checked = i == map;
   }
-  form_.nome_call.visible = false;
+  HideLabel();
+  ClearLayers();
+}
+
+void SquaresMap::ClearLayers() {
   layers_ = {};
-  layers_.names = map >= kFirstNamedMap;
+  layers_.names = view_ >= kFirstNamedMap;
   Redraw();
 }
 
@@ -114,7 +118,7 @@ void SquaresMap::resetta_Click() {
 }
 
 void SquaresMap::illustra_Click() {
-  ChooseMap(view_);
+  ClearLayers();
   Plot();
 }
 
@@ -170,9 +174,9 @@ void SquaresMap::PlotParticipants() {
   form_.Lista_partecipanti.Fill({});
   form_.titolo.caption = "Partecip. in";
   std::vector<std::string> listed;
-  for (const std::string_view row : CountedRows(files_, Participants())) {
+  for (const std::string_view row : CountedRows(files_, Participants(band_->category))) {
     const std::string_view category = Cut(row, partecipante_row::kCategory);
-    if (category != form_.banda_qso.value) {
+    if (category != band_->category) {
       continue;
     }
     listed.push_back(Join(Cut(row, partecipante_row::kCall), category));
@@ -240,7 +244,7 @@ void SquaresMap::Lista_partecipanti_Click() {
 }
 
 std::string SquaresMap::DeclaredLocator(std::string_view call, std::string_view category) const {
-  for (const std::string_view row : CountedRows(files_, Participants())) {
+  for (const std::string_view row : CountedRows(files_, Participants(category))) {
     if (RTrim(Cut(row, partecipante_row::kCall)) == call &&
         Cut(row, partecipante_row::kCategory) == category) {
       return std::string(Cut(row, partecipante_row::kLocator));
@@ -293,9 +297,13 @@ void SquaresMap::ShowLabel(const std::string& text) {
   form_.nome_call.visible = true;
 }
 
-void SquaresMap::no_label_Click() {
+void SquaresMap::HideLabel() {
   label_by_hand_ = false;
   form_.nome_call.visible = false;
+}
+
+void SquaresMap::no_label_Click() {
+  HideLabel();
   Redraw();
 }
 

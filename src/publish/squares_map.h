@@ -57,9 +57,10 @@ class SquaresMap {
   void On(Control& control, void (SquaresMap::*event)());
   const MapView& View() const { return MapViews().at(view_); }
   PublishedFiles Published() const;
-  std::string Participants() const;
+  std::string Participants(std::string_view category) const;
 
   void ChooseMap(std::size_t map);
+  void ClearLayers();
   void ChooseBand();
   void Plot();
   void PlotLocators();
@@ -70,6 +71,7 @@ class SquaresMap {
   std::string DeclaredLocator(std::string_view call, std::string_view category) const;
   void PlotContacts(std::string_view call, std::string_view category);
   void ShowLabel(const std::string& text);
+  void HideLabel();
   void Redraw();
 
   ContestSession& session_;

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <array>
 #include <cmath>
-#include <memory>
 
 #include "model/text.h"
 #include "platform/error.h"
@@ -40,10 +39,10 @@ void NeedFonts() {
   static std::array<char*, 4> arguments = {const_cast<char*>("velmar"),
                                            const_cast<char*>("-platform"),
                                            const_cast<char*>("offscreen"), nullptr};
-  static std::unique_ptr<QGuiApplication> application;
+  // Never destroyed: at the program's end the toolkit's own statics are gone before it.
   if (QCoreApplication::instance() == nullptr) {
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));  // of a bare machine
-    application = std::make_unique<QGuiApplication>(count, arguments.data());
+    [[maybe_unused]] static auto* const application = new QGuiApplication(count, arguments.data());
   }
 }
 

@@ -167,7 +167,7 @@ QHBoxLayout* StatisticsWindow::MakeLists() {
   auto* lists = new QHBoxLayout;
   lists->setSpacing(kSpacing);
   lists->addLayout(MakeTitledList(QStringLiteral("Partecipanti"), form_.Lista_partecipanti), 5);
-  QBoxLayout* year = MakeTitledList(QStringLiteral("Squares dell'anno"), form_.List2);
+  QBoxLayout* year = MakeTitledList(QStringLiteral("Squares del mese"), form_.List2);
   year->addSpacing(kGap);
   year->addWidget(Make<QPushButton>(form_.squares_old));  // which comes to bear their number
   lists->addLayout(year, 3);

@@ -1,4 +1,4 @@
-// Plays a sample contest from the received logs to the checked classification, without a screen.
+// Plays a sample contest from the received logs to its publication, without a screen.
 // All of it goes through the player, as a manager would go through the windows.
 
 #include <exception>
@@ -10,7 +10,8 @@
 #include "demo/desk_manager.h"
 #include "demo/fault_ledger.h"
 #include "demo/played_program.h"
-#include "model/lines.h"
+#include "demo/publication.h"
+#include "demo/story.h"
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/ansi.h"
@@ -23,10 +24,6 @@ namespace {
 const SampleOptions kContest{.seed = 144, .stations = 60, .qsos = 40};
 constexpr std::string_view kMonth = "GENNAIO 2025";
 constexpr std::size_t kBestRows = 10;  ///< shown of the checked classification
-
-void Heading(const std::string& text) {
-  std::cout << "\n== " << text << '\n';
-}
 
 std::vector<PlantedFault> ReceiveLogs(FileSystem& files, const Workspace& workspace) {
   const SampleContest contest = MakeSampleContest(kContest);
@@ -49,14 +46,6 @@ void PutAwayRefusedLogs(FileSystem& files, const Workspace& workspace) {
   for (const std::string& name : files.List(workspace.to_check_again(), "*.*")) {
     files.Move(workspace.to_check_again() + "/" + name, RefusedFolder(workspace) + "/" + name);
     std::cout << "  " << Utf8FromAnsi(name) << '\n';
-  }
-}
-
-/// A file of the program, as it lies there.
-void ShowText(FileSystem& files, const std::string& path) {
-  const std::string text = files.ReadAll(path);
-  for (const std::string_view line : SplitLines(text)) {
-    std::cout << "  " << Utf8FromAnsi(line) << '\n';
   }
 }
 
@@ -170,6 +159,7 @@ void Run(const std::string& folder) {
   Heading("The first classification");
   ShowText(files, workspace.classification(kMonth));
   CheckLogs(files, workspace, faults);
+  const std::string map = PublishContest(files, workspace, std::string(kMonth));
 
   Heading("What was made");
   const auto count = [&](const std::string& path, std::string_view pattern) {
@@ -178,7 +168,9 @@ void Run(const std::string& folder) {
   std::cout << "  " << count(workspace.category(), "*.edi") << " filed logs and their store in "
             << workspace.category() << "\n  " << count(RefusedFolder(workspace), "*.*")
             << " refused logs in " << RefusedFolder(workspace)
-            << "\n  the list of planted faults in " << workspace.base() << "/guasti_piantati.txt\n";
+            << "\n  the classifications by call area and the statistics beside the store"
+            << "\n  the map in " << map << "\n  the list of planted faults in " << workspace.base()
+            << "/guasti_piantati.txt\n";
 }
 
 }  // namespace
