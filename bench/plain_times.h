@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "check/somma_qso.h"
 #include "check/time_differences.h"
+#include "model/somma_qso.h"
 
 namespace velmar::bench {
 

@@ -16,6 +16,7 @@
 #include "session/month_assignment.h"
 #include "session/month_dialog.h"
 #include "session/start_up.h"
+#include "utility/absent_stations.h"
 #include "utility/info_window.h"
 
 namespace velmar {
@@ -33,20 +34,23 @@ struct Program::Modules {
         insertion(session, ports.files, ports.manager, store, months, main),
         desk(session, ports, store, screen, main, check),
         area_classifications(session, ports.files, ports.manager, trap),
-        statistics(session, ports, screen, main, statistics_form, [] {}),
+        statistics(session, ports, screen, main, statistics_form, [this] { absent.Open(); }),
+        absent(session, ports, screen, main, [this] { statistics.Open(); }),
         info_window(screen, info),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
              {.open_recalculation = [this] { recalculation.Open(); },
               .open_renaming = [this] { renaming.Open(); },
               .open_check = [this] { desk.Open(); },
+              .open_absent = [this] { absent.Open(); },
               .open_info = [this] { info_window.Open(); },
               .classify_areas = [this] { area_classifications.cla_x_callarea_Click(); },
               .open_statistics = [this] { statistics.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
-    for (Form* form : std::initializer_list<Form*>{
-             &main, &month_dialog.form(), &config.form(), &recalculation.form(), &renaming.form(),
-             &check, &statistics_form, &desk.archive_form(), &desk.notices_form(), &info}) {
+    for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
+                                                   &recalculation.form(), &renaming.form(), &check,
+                                                   &statistics_form, &desk.archive_form(),
+                                                   &desk.notices_form(), &absent.form(), &info}) {
       screen.Add(*form);
     }
   }
@@ -68,6 +72,7 @@ struct Program::Modules {
   CheckDesk desk;
   AreaClassifications area_classifications;
   Statistics statistics;
+  AbsentStations absent;
   InfoWindow info_window;
   Leaving leaving;
   MainMenu menu;
@@ -113,6 +118,10 @@ CheckDesk& Program::check_desk() {
 
 StatisticsForm& Program::statistics_form() {
   return modules_->statistics_form;
+}
+
+AbsentStations& Program::absent_stations() {
+  return modules_->absent;
 }
 
 InfoForm& Program::info_form() {

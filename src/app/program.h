@@ -8,6 +8,7 @@
 
 namespace velmar {
 
+class AbsentStations;
 class CheckDesk;
 class ConfigDialog;
 struct InfoForm;
@@ -41,6 +42,7 @@ class Program {
   Renaming& renaming();
   CheckDesk& check_desk();
   StatisticsForm& statistics_form();
+  AbsentStations& absent_stations();
   InfoForm& info_form();
 
  private:

@@ -7,7 +7,7 @@
 
 #include "check/check_form.h"
 #include "check/check_state.h"
-#include "check/somma_qso.h"
+#include "model/somma_qso.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "session/contest_session.h"

@@ -154,6 +154,7 @@ void QueuePanel::primo_dacontrollare_Click() {
 
 void QueuePanel::vai_a_un_call_Click() {
   const std::string wanted = Upper(form_.sigla_call.value);
+  session_.last_call_search = wanted;
   if (const auto row = state_.queue.FindCall(wanted)) {
     Choose(*row);
     form_.LBL_doppioclick.caption = " DOPPIO CLICK PER INIZIARE IL CONTROLLO";

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "check/somma_qso.h"
+#include "model/somma_qso.h"
 
 namespace velmar {
 

@@ -62,6 +62,11 @@ class Workspace {
   /// A working list of the check desk; all of these end in ".tmp".
   std::string scratch(std::string_view name) const { return base_ + "/" + std::string(name); }
 
+  /// A working file among the folders of the categories.
+  std::string store_scratch(std::string_view name) const {
+    return store() + "/" + std::string(name);
+  }
+
   std::string settings() const { return base_ + "/VartoVLM.ini"; }
   std::string call_book() const { return base_ + "/Varto_book.bin"; }
   std::string month_to_check() const { return store() + "/mese_verifica.dat"; }

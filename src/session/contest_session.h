@@ -54,6 +54,7 @@ struct ContestSession {
   std::vector<std::string> call_book;        ///< the records of the archive
 
   // What the steps tell one another.
+  std::string last_call_search;          ///< what the check desk looked for last, in capitals
   bool log_inserted_since_load = false;  ///< the classification in memory lacks a log
   bool classifica_loaded = false;        ///< the check desk has held one
   bool reload_needed = false;            ///< the check desk must read it again

@@ -22,6 +22,7 @@ MainMenu::MainMenu(ContestSession& session, FileSystem& files, Manager& manager,
   OnClick(form.Rinomina_ita, &MainMenu::Rinomina_ita_Click);
   OnClick(form.Inserire_log, &MainMenu::Inserire_log_Click);
   OnClick(form.controlla_locatori, &MainMenu::controlla_locatori_Click);
+  OnClick(form.Assenti, &MainMenu::Assenti_Click);
   OnClick(form.Info, &MainMenu::Info_Click);
   OnClick(form.cla_x_callarea, &MainMenu::cla_x_callarea_Click);
   OnClick(form.statistiche, &MainMenu::statistiche_Click);
@@ -86,6 +87,11 @@ void MainMenu::Inserire_log_Click() {
 
 void MainMenu::controlla_locatori_Click() {
   steps_.open_check();
+}
+
+void MainMenu::Assenti_Click() {
+  screen_.Hide(form_);
+  steps_.open_absent();
 }
 
 void MainMenu::Info_Click() {

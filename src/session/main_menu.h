@@ -17,6 +17,7 @@ struct MenuSteps {
   std::function<void()> open_recalculation{};
   std::function<void()> open_renaming{};
   std::function<void()> open_check{};
+  std::function<void()> open_absent{};
   std::function<void()> open_info{};
   std::function<void()> classify_areas{};
   std::function<void()> open_statistics{};
@@ -35,6 +36,7 @@ class MainMenu {
   void Inserire_log_Click();
   /// Opens the check desk, which takes this screen's place when it is ready.
   void controlla_locatori_Click();
+  void Assenti_Click();
   void Info_Click();
   void cla_x_callarea_Click();
   void statistiche_Click();

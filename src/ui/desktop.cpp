@@ -9,6 +9,7 @@
 #include "platform/ansi.h"
 #include "publish/statistics_form.h"
 #include "session/info_form.h"
+#include "ui/absent_window.h"
 #include "ui/archive_window.h"
 #include "ui/check_window.h"
 #include "ui/config_window.h"
@@ -21,6 +22,7 @@
 #include "ui/recalculation_window.h"
 #include "ui/renaming_window.h"
 #include "ui/statistics_window.h"
+#include "utility/absent_stations.h"
 
 namespace velmar {
 
@@ -35,6 +37,7 @@ Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
   Add(std::make_unique<ArchiveWindow>(program.check_desk().archive_form(), runner));
   Add(std::make_unique<NoticesWindow>(program.check_desk().notices_form(), runner));
   Add(std::make_unique<StatisticsWindow>(program.statistics_form(), runner));
+  Add(std::make_unique<AbsentWindow>(program.absent_stations().form(), runner));
   Add(std::make_unique<InfoPage>(program.info_form(), runner));
   program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };
   runner.on_refresh = [this] { Refresh(); };

@@ -247,6 +247,7 @@ TEST(CheckSession, FindsARowByPartOfTheCall) {
   EXPECT_EQ(desk.form.LBL_doppioclick.caption, " DOPPIO CLICK PER INIZIARE IL CONTROLLO");
   EXPECT_EQ(desk.form.LBL_doppioclick.colour, colour::kYellow);
   EXPECT_TRUE(desk.form.LBL_doppioclick.Reachable());
+  EXPECT_EQ(desk.session.last_call_search, "QBC");
   desk.form.sigla_call.Type("K2QA");
   desk.form.sigla_call.Press("K");
   EXPECT_EQ(desk.form.listacall_banda.selection, 2) << "Enter alone looks for it";

@@ -10,9 +10,9 @@
 #include <string_view>
 #include <vector>
 
-#include "check/somma_qso.h"
 #include "check/time_differences.h"
 #include "model/lines.h"
+#include "model/somma_qso.h"
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "plain_times.h"

@@ -35,8 +35,8 @@ TEST(MapView, TheOtherMapsPlaceInProportion) {
 
 TEST(MapView, ATextThatIsNoLocatorOfTheMapsHasNoPlace) {
   for (const MapView& view : MapViews()) {
-    for (const char* text : {"", "JN", "JN4", "JN45N", "JN45NLA", "jn45", "JN45nl",
-                             "JN4A", "JN45NY", "HN45", "LN45", "JE45", "JQ45"}) {
+    for (const char* text : {"", "JN", "JN4", "JN45N", "JN45NLA", "jn45", "JN45nl", "JN4A",
+                             "JN45NY", "HN45", "LN45", "JE45", "JQ45"}) {
       EXPECT_FALSE(PlaceOf(view, text)) << view.title << ": " << text;
     }
     EXPECT_EQ(PlaceOf(view, "JN45 9"), PlaceOf(view, "JN45")) << "the points of the row follow";

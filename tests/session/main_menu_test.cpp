@@ -54,6 +54,7 @@ class MainMenuTest : public testing::Test {
                        EXPECT_TRUE(form.visible()) << "the desk takes its place when it is ready";
                        ++opened;
                      },
+                 .open_absent = [this] { NoteOpening(); },
                  .open_info = [this] { ++opened_info; }}};
 };
 
@@ -80,13 +81,15 @@ TEST_F(MainMenuTest, LogsThatWaitToBeInsertedEndTheRenaming) {
   EXPECT_EQ(manager.boxes.at(1), (Box{.lines = {" Programma terminato "}, .icon = Icon::kStop}));
 }
 
-TEST_F(MainMenuTest, TheCheckDeskAndTheNoticesOpen) {
+TEST_F(MainMenuTest, TheCheckDeskTheNoticesAndTheAbsentStationsOpen) {
   form.controlla_locatori.Click();
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(opened_info, 0);
   form.Info.Click();
   EXPECT_EQ(opened, 1);
   EXPECT_EQ(opened_info, 1);
+  form.Assenti.Click();
+  EXPECT_EQ(opened, 2);
   EXPECT_TRUE(manager.boxes.empty());
 }
 

@@ -19,6 +19,7 @@
 #include "support/temp_workspace.h"
 #include "ui/desktop.h"
 #include "ui/event_runner.h"
+#include "utility/absent_stations.h"
 
 namespace velmar::test {
 

@@ -92,6 +92,7 @@ const WindowCase kWindows[] = {
     {"StatisticsCounts", StatisticsOf, ShowCounts},
     {"StatisticsMap", StatisticsOf, ShowMap},
     {"StatisticsNoMapYet", StatisticsOf, ShowNoMapYet},
+    {"Absent", [](Program& program) -> Form& { return program.absent_stations().form(); }},
     {"Info", [](Program& program) -> Form& { return program.info_form(); }}};
 
 class WindowTest : public testing::TestWithParam<WindowCase> {

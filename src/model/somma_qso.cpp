@@ -1,4 +1,4 @@
-#include "check/somma_qso.h"
+#include "model/somma_qso.h"
 
 #include <array>
 
@@ -17,6 +17,8 @@ constexpr std::size_t kTime = 1;
 constexpr std::size_t kCall = 2;
 constexpr std::size_t kNumber = 5;
 constexpr std::size_t kNumberWidth = 5;
+constexpr std::size_t kLocator = 9;
+constexpr std::size_t kLocatorWidth = 8;
 constexpr std::size_t kPoints = 10;
 constexpr std::size_t kFields = 11;
 
@@ -40,6 +42,7 @@ SommaQso CutSommaRow(std::string_view row) {
           .call = Trim(Left(fields[kCall], kCallWidth)),
           .owner = RTrim(Right(row, kCallWidth)),
           .number = Trim(Left(fields[kNumber], kNumberWidth)),
+          .locator = Trim(Left(fields[kLocator], kLocatorWidth)),
           .points = RTrim(fields[kPoints])};
 }
 
