@@ -7,9 +7,9 @@
 #include "model/call_area.h"
 #include "model/classification_row.h"
 #include "model/lines.h"
-#include "model/published_files.h"
 #include "model/text.h"
 #include "platform/ansi.h"
+#include "publish/month_files.h"
 
 namespace velmar {
 
@@ -42,7 +42,7 @@ void AreaClassifications::WriteAll() {
     manager_.Show({.lines = {Join(" Nessuna classifica  ", kCategory, " è presente"_a)}});
     return;
   }
-  const PublishedFiles published(session_.workspace, session_.category_month);
+  const PublishedFiles published = MonthFiles(session_);
   for (std::size_t i = 0; i < kCallAreaNames.size(); ++i) {
     const auto area = static_cast<CallArea>(i);
     files_.WriteAll(published.area_classification(area), CutFor(area, *classification));

@@ -8,6 +8,7 @@
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "publish/area_counters.h"
+#include "publish/month_files.h"
 #include "publish/on_air_calls.h"
 
 namespace velmar {
@@ -44,10 +45,6 @@ void AreaQsos::trova_Click() {
 
 std::string AreaQsos::StorePath(StoreFile file, const std::string& category) const {
   return session_.workspace.store_file(file, category);
-}
-
-PublishedFiles AreaQsos::Published() const {
-  return {session_.workspace, session_.category_month};
 }
 
 void AreaQsos::Run(const std::string& category) {
@@ -99,7 +96,7 @@ void AreaQsos::WriteAreas(const std::string& category, const CountedRows& librar
   text +=
       line("qsoitalia               = ", worked_.italy, "qsoestero            = ", worked_.abroad);
   AddLine(text, std::string(kRule, '='));
-  files_.WriteAll(Published().area_qsos(category), text);
+  files_.WriteAll(MonthFiles(session_).area_qsos(category), text);
 }
 
 void AreaQsos::WriteParticipants(const std::string& category, const CountedRows& participants) {
@@ -109,7 +106,7 @@ void AreaQsos::WriteParticipants(const std::string& category, const CountedRows&
       list.Add(std::string(row));
     }
   }
-  files_.WriteAll(Published().participants(category), TextOfLines(list.rows()));
+  files_.WriteAll(MonthFiles(session_).participants(category), TextOfLines(list.rows()));
 }
 
 /// The QSOs without those that the logs mark as worked twice.

@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "model/published_files.h"
 #include "platform/file_system.h"
 #include "publish/counted_rows.h"
 #include "publish/statistics_form.h"
@@ -30,7 +29,6 @@ class AreaQsos {
   void ShowCountries(const std::string& category, const CountedRows& library);
 
   std::string StorePath(StoreFile file, const std::string& category) const;
-  PublishedFiles Published() const;
 
   /// The QSOs of the category, by whom was worked.
   struct Worked {

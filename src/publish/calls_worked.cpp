@@ -10,6 +10,7 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 #include "publish/bands.h"
+#include "publish/month_files.h"
 
 namespace velmar {
 
@@ -80,13 +81,9 @@ void CallsWorked::qso_est_Click() {
   trap_.Procedure([this] { Run(form_.banda_qso.value); });
 }
 
-PublishedFiles CallsWorked::Published() const {
-  return {session_.workspace, session_.category_month};
-}
-
 /// A copy that the manager has placed beside the categories, or else the category's own file.
 std::string CallsWorked::LibraryPath(const std::string& category) {
-  const std::string placed = Published().placed_library();
+  const std::string placed = MonthFiles(session_).placed_library();
   return files_.StampOf(placed)
              ? placed
              : session_.workspace.store_file(StoreFile::kLibreriaTotale, category);
@@ -98,12 +95,12 @@ void CallsWorked::Run(const std::string& category) {
   trap_.At(2);
   const Counts counts = WriteZones(category, library);
   trap_.At(4);
-  files_.Append(Published().area_qsos(category), CountsText(counts));
+  files_.Append(MonthFiles(session_).area_qsos(category), CountsText(counts));
   form_.tot_qso_est.caption = std::to_string(counts.italian.total() + counts.foreign.total());
   trap_.At(5);
   TakeOnAir(category);
   trap_.At(6);
-  files_.Append(Published().area_qsos(category), OnAirText());
+  files_.Append(MonthFiles(session_).area_qsos(category), OnAirText());
   trap_.At(7);
   WriteItalianCalls(category, library);
   manager_.Show({.lines = {Join(" salvataggio file statistica  ", category, "  è terminato"_a)}});
@@ -117,8 +114,8 @@ CallsWorked::Counts CallsWorked::WriteZones(const std::string& category,
   Counts counts;
   for (const Zone& zone : kZones) {
     const ZoneCalls calls = FindZoneCalls(rows, zone.name);
-    files_.WriteAll(Published().zone_calls(category, true, zone.name), TextOfLines(calls.italian));
-    files_.WriteAll(Published().zone_calls(category, false, zone.name), TextOfLines(calls.foreign));
+    files_.WriteAll(MonthFiles(session_).zone_calls(category, true, zone.name), TextOfLines(calls.italian));
+    files_.WriteAll(MonthFiles(session_).zone_calls(category, false, zone.name), TextOfLines(calls.foreign));
     counts.italian[zone.area] = static_cast<int>(calls.italian.size());
     counts.foreign[zone.area] = static_cast<int>(calls.foreign.size());
   }
@@ -160,7 +157,7 @@ std::string CallsWorked::CountsText(const Counts& counts) const {
 void CallsWorked::TakeOnAir(const std::string& category) {
   const Band* const band = BandOfCategory(category);
   const std::string label(band == nullptr ? std::string_view(category) : band->label);
-  for (const std::string_view line : CountedRows(files_, Published().band_counts(label))) {
+  for (const std::string_view line : CountedRows(files_, MonthFiles(session_).band_counts(label))) {
     for (const CallArea area : kPrintedAreas) {
       if (Cut(line, kOnAirKey) == Join(kOnAirLine, NameOf(area))) {
         on_air_[area] = static_cast<int>(Val(Cut(line, kOnAirCount)));
@@ -201,7 +198,7 @@ void CallsWorked::WriteItalianCalls(const std::string& category, const CountedRo
       calls.Add(std::string(CallOf(row)));
     }
   }
-  files_.WriteAll(Published().italian_calls(category),
+  files_.WriteAll(MonthFiles(session_).italian_calls(category),
                   TextOfLines(Distinct(calls.rows(), kSameStation)));
 }
 

@@ -4,7 +4,6 @@
 #include <string_view>
 #include <vector>
 
-#include "model/published_files.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "publish/area_counters.h"
@@ -44,8 +43,6 @@ class CallsWorked {
   void TakeOnAir(const std::string& category);
   std::string OnAirText() const;
   void WriteItalianCalls(const std::string& category, const CountedRows& library);
-
-  PublishedFiles Published() const;
 
   ContestSession& session_;
   FileSystem& files_;

@@ -13,6 +13,7 @@
 #include "publish/countries.h"
 #include "publish/farthest_qso.h"
 #include "publish/long_total.h"
+#include "publish/month_files.h"
 #include "publish/worked_squares.h"
 
 namespace velmar {
@@ -112,16 +113,12 @@ void ContestTotals::calcola_qso_Click() {
   trap_.Procedure([this] { Run(); }, " OVERFLOW     ci sono oltre 32255 qso in libreria");
 }
 
-PublishedFiles ContestTotals::Published() const {
-  return {session_.workspace, session_.category_month};
-}
-
 std::string ContestTotals::StorePath(StoreFile file) const {
   return session_.workspace.store_file(file);
 }
 
 void ContestTotals::AddToStatistics(std::string_view lines) {
-  files_.Append(Published().statistics(), lines);
+  files_.Append(MonthFiles(session_).statistics(), lines);
 }
 
 void ContestTotals::Run() {
@@ -170,23 +167,21 @@ void ContestTotals::Run() {
 
 void ContestTotals::CountLogs(const CountedRows& classification) {
   LongTotal qsos;
-  for (const std::string_view& row : classification) {
-    if (&row != &*classification.begin()) {
-      qsos.Add(Val(Cut(row, kQsosOfLog)));
-    }
+  const auto logs = static_cast<std::ptrdiff_t>(classification.size()) - 1;  // beside the header
+  for (std::ptrdiff_t log = 1; log <= logs; ++log) {
+    qsos.Add(Val(Cut(classification.begin()[log], kQsosOfLog)));
   }
-  const std::size_t logs = classification.size() > 1 ? classification.size() - 1 : 0;
   form_.qso_144_tot.caption = std::to_string(qsos.value());
   const std::string total = NumberLine("Qso totali    ", qsos.value());
   trap_.At(3);
   std::string head;
   AddLine(head, Join("Categoria 2IT - 144 MHz ", Lower(session_.category_month)));
   AddLine(head, " ");
-  files_.WriteAll(Published().statistics(),
-                  Join(head, NumberLine("Log totali    ", static_cast<long long>(logs)), total));
+  files_.WriteAll(MonthFiles(session_).statistics(),
+                  Join(head, NumberLine("Log totali    ", std::max<std::ptrdiff_t>(logs, 0)), total));
   trap_.At(4);
   // The QSOs of foreign stations are those beyond a total that was copied just before: always none.
-  files_.Append(Published().band_counts(kContestBand.label),
+  files_.Append(MonthFiles(session_).band_counts(kContestBand.label),
                 NumberLine("qso di esteri ", 0) + total);
 }
 
@@ -217,8 +212,8 @@ void ContestTotals::WriteOnAir(const std::vector<std::string>& calls) {
     flags += NumberLine(call, 1);
   }
   const auto count = static_cast<long long>(calls.size());
-  files_.WriteAll(Published().on_air_flags(), flags);
-  files_.WriteAll(Published().on_air(), TextOfLines(calls));
+  files_.WriteAll(MonthFiles(session_).on_air_flags(), flags);
+  files_.WriteAll(MonthFiles(session_).on_air(), TextOfLines(calls));
   AddToStatistics(NumberLine("Call in aria  ", count));
   form_.onair_144_tot.caption = std::to_string(count);
 }
@@ -227,7 +222,7 @@ void ContestTotals::WriteCountries(const std::vector<std::string>& calls) {
   const OnAirCounts counts = CountOnAir(calls);
   on_air_ = counts.areas;
   if (!counts.unknown.empty()) {
-    files_.Append(Published().unknown_calls(), TextOfLines(counts.unknown));
+    files_.Append(MonthFiles(session_).unknown_calls(), TextOfLines(counts.unknown));
   }
   trap_.At(12);
   ShowCountries(counts);
@@ -235,7 +230,7 @@ void ContestTotals::WriteCountries(const std::vector<std::string>& calls) {
   AddToStatistics(NumberLine("Call esteri   ", counts.abroad()) +
                   NumberLine("Call ita      ", counts.italy()) + TextOfLines(countries));
   trap_.At(13);
-  files_.WriteAll(Published().countries(), CountriesText(counts));
+  files_.WriteAll(MonthFiles(session_).countries(), CountriesText(counts));
   trap_.At(14);
   const auto found = static_cast<long long>(countries.size());
   form_.paesi_144_tot.caption = std::to_string(found);
@@ -266,10 +261,10 @@ bool ContestTotals::WriteSquares(const CountedRows& library) {
   }
   const WorkedSquares worked = FindWorkedSquares(locators.rows());
   const std::string_view band = kContestBand.file_name;
-  files_.WriteAll(Published().locators(band), TextOfLines(worked.locators));
+  files_.WriteAll(MonthFiles(session_).locators(band), TextOfLines(worked.locators));
   trap_.At(16);
-  files_.WriteAll(Published().squares(band), worked.squares);
-  files_.WriteAll(Published().fields(band), worked.fields);
+  files_.WriteAll(MonthFiles(session_).squares(band), worked.squares);
+  files_.WriteAll(MonthFiles(session_).fields(band), worked.fields);
   AddToStatistics(worked.lines);
   trap_.At(17);
   form_.loc_onair_144_tot.caption = std::to_string(worked.locators.size());
@@ -348,7 +343,7 @@ void ContestTotals::WriteForeignCalls(const CountedRows& library) {
       stations.Add(std::string(Cut(row, kForeignStation)));
     }
   }
-  files_.WriteAll(Published().foreign_calls(),
+  files_.WriteAll(MonthFiles(session_).foreign_calls(),
                   TextOfLines(Distinct(stations.rows(), std::string::npos)));
 }
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "model/published_files.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "publish/area_counters.h"
@@ -48,7 +48,6 @@ class ContestTotals {
   void WriteForeignCalls(const CountedRows& library);
 
   std::string StorePath(StoreFile file) const;
-  PublishedFiles Published() const;
   void AddToStatistics(std::string_view lines);
 
   ContestSession& session_;

@@ -10,6 +10,7 @@
 #include "platform/form.h"
 #include "publish/counted_rows.h"
 #include "publish/map_background.h"
+#include "publish/month_files.h"
 #include "session/failure.h"
 
 namespace velmar {
@@ -76,10 +77,6 @@ SquaresMap::SquaresMap(ContestSession& session, const Ports& ports, StatisticsTr
 
 void SquaresMap::On(Control& control, void (SquaresMap::*event)()) {
   control.on_click = [this, event] { trap_.Procedure([this, event] { (this->*event)(); }); };
-}
-
-PublishedFiles SquaresMap::Published() const {
-  return {session_.workspace, session_.category_month};
 }
 
 std::string SquaresMap::Participants(std::string_view category) const {
@@ -164,7 +161,7 @@ void SquaresMap::Plot() {
 void SquaresMap::PlotLocators() {
   form_.titolo.caption = "Locator on air";
   for (const std::string_view locator :
-       CountedRows(files_, Published().locators(band_->file_name))) {
+       CountedRows(files_, MonthFiles(session_).locators(band_->file_name))) {
     Mark(locator, View().locator);
   }
   ShowCounters("Squares collegati = ");
@@ -190,7 +187,7 @@ void SquaresMap::PlotParticipants() {
 
 void SquaresMap::PlotSquares() {
   form_.titolo.caption = "Square in";
-  const CountedRows squares(files_, Published().squares(band_->file_name));
+  const CountedRows squares(files_, MonthFiles(session_).squares(band_->file_name));
   for (const std::string_view square : squares) {
     Mark(square, View().square);
   }

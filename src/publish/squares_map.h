@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "model/published_files.h"
 #include "platform/picture.h"
 #include "platform/ports.h"
 #include "publish/bands.h"
@@ -56,7 +55,6 @@ class SquaresMap {
 
   void On(Control& control, void (SquaresMap::*event)());
   const MapView& View() const { return MapViews().at(view_); }
-  PublishedFiles Published() const;
   std::string Participants(std::string_view category) const;
 
   void ChooseMap(std::size_t map);

@@ -3,12 +3,13 @@
 #include "model/lines.h"
 #include "model/sorted_list.h"
 #include "platform/ansi.h"
+#include "publish/month_files.h"
 
 namespace velmar {
 
 /// Keeps the year as it stood before this month, if that was not done in an earlier run.
 void YearSquares::PutAside(std::string_view band_label) {
-  const PublishedFiles published = Published();
+  const PublishedFiles published = MonthFiles(session_);
   const std::string earlier = published.earlier_squares(band_label);
   const std::string year = published.year_squares(band_label);
   if (files_.StampOf(earlier)) {
@@ -27,7 +28,7 @@ void YearSquares::PutAside(std::string_view band_label) {
 
 std::size_t YearSquares::Keep(std::string_view band_label,
                               const std::vector<std::string>& squares) {
-  const PublishedFiles published = Published();
+  const PublishedFiles published = MonthFiles(session_);
   const std::string year = published.year_squares(band_label);
   PutAside(band_label);
   files_.Append(year, TextOfLines(squares));
@@ -43,11 +44,11 @@ std::size_t YearSquares::Keep(std::string_view band_label,
 }
 
 std::string YearSquares::Earlier(std::string_view band_label) {
-  return files_.ReadAll(Published().earlier_squares(band_label));
+  return files_.ReadAll(MonthFiles(session_).earlier_squares(band_label));
 }
 
 std::string YearSquares::OfMonth(std::string_view band_label) {
-  return files_.ReadAll(Published().month_squares(band_label));
+  return files_.ReadAll(MonthFiles(session_).month_squares(band_label));
 }
 
 }  // namespace velmar

@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "model/published_files.h"
 #include "platform/file_system.h"
 #include "platform/manager.h"
 #include "session/contest_session.h"
@@ -28,7 +27,6 @@ class YearSquares {
   std::string OfMonth(std::string_view band_label);
 
  private:
-  PublishedFiles Published() const { return {session_.workspace, session_.category_month}; }
   void PutAside(std::string_view band_label);
 
   ContestSession& session_;
