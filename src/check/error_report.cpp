@@ -7,20 +7,6 @@
 
 namespace velmar {
 
-namespace {
-
-std::vector<std::string> LinesOf(std::string_view text) {
-  const auto lines = SplitLines(text);
-  return {lines.begin(), lines.end()};
-}
-
-/// A number as the labels of the score show it.
-std::string Shown(double number) {
-  return std::string(Trim(StrReal(number)));
-}
-
-}  // namespace
-
 std::string ErrorReport::Path() const {
   return session_.workspace.error_list(state_.categoria, state_.call_in_esame,
                                        session_.category_month);
@@ -114,10 +100,10 @@ void ErrorReport::Lower(const std::string& call, const std::string& points) {
 
 void ErrorReport::ShowScore() {
   form_.call_in_esame.caption = state_.call_in_esame;
-  form_.qrb_ufficiale.caption = Shown(state_.qrb_ufficiale);
-  form_.err_count.caption = Shown(state_.err_count);
-  form_.err_qrb.caption = Shown(state_.err_qrb);
-  form_.qrb_finale.caption = Shown(state_.qrb_finale);
+  form_.qrb_ufficiale.caption = NumberText(state_.qrb_ufficiale);
+  form_.err_count.caption = NumberText(state_.err_count);
+  form_.err_qrb.caption = NumberText(state_.err_qrb);
+  form_.qrb_finale.caption = NumberText(state_.qrb_finale);
 }
 
 void ErrorReport::vis_err_Click() {
@@ -132,7 +118,7 @@ void ErrorReport::vis_err_Click() {
 
 /// Fills the list on the screen, its end in sight.
 void ErrorReport::ShowList() {
-  form_.List_errori.Fill(LinesOf(files_.ReadAll(Path())));
+  form_.List_errori.Fill(CopyLines(files_.ReadAll(Path())));
   form_.List_errori.top = static_cast<int>(form_.List_errori.items.rows().size()) - 1;
 }
 
@@ -144,7 +130,7 @@ void ErrorReport::stampa_errori_Click() {
   if (!printer_.Installed()) {
     manager_.Show(NoPrinterBox());
   } else if (!state_.call_in_esame.empty()) {
-    printer_.Print({{.lines = LinesOf(files_.ReadAll(Path()))}});
+    printer_.Print({{.lines = CopyLines(files_.ReadAll(Path()))}});
   }
 }
 

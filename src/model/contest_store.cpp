@@ -101,8 +101,7 @@ std::optional<std::vector<std::string>> ContestStore::Lines(StoreFile file,
   if (!text) {
     return std::nullopt;
   }
-  const auto lines = SplitLines(*text);
-  return std::vector<std::string>(lines.begin(), lines.end());
+  return CopyLines(*text);
 }
 
 bool ContestStore::ContainsOwner(std::string_view call, std::string_view category) {

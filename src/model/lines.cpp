@@ -30,6 +30,11 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
   return lines;
 }
 
+std::vector<std::string> CopyLines(std::string_view text) {
+  const auto lines = SplitLines(text);
+  return {lines.begin(), lines.end()};
+}
+
 std::string_view LastLine(std::string_view text) {
   std::string_view last;
   LineReader reader(text);

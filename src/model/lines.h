@@ -35,6 +35,9 @@ inline void AddLine(std::string& text, std::string_view line) {
 /// All lines of a text, as LineReader gives them.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
+/// The same as texts of their own, which outlive `text`.
+std::vector<std::string> CopyLines(std::string_view text);
+
 /// Puts the lines of a text into a table of them, in place of what it held. The table tells where
 /// there are too many.
 template <typename Table>

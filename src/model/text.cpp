@@ -83,6 +83,10 @@ std::string StrReal(double number, int digits) {
   return signed_text;
 }
 
+std::string NumberText(double number) {
+  return std::string(Trim(StrReal(number)));
+}
+
 double Val(std::string_view text) {
   text = LTrim(text);
   const bool negative = text.starts_with('-');

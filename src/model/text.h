@@ -65,6 +65,9 @@ std::string Str(long long number);
 /// single precision) and without a zero ahead of the point: " 1.5", " .5", " 1E-05".
 std::string StrReal(double number, int digits = 15);
 
+/// The same without the blank, as the labels of a form show a number.
+std::string NumberText(double number);
+
 /// The number that stands at the start of a text, behind blanks: a sign, digits and a decimal
 /// point, each if it is there. 0 when there is none.
 double Val(std::string_view text);

@@ -31,16 +31,6 @@ constexpr int kForeignQsos = 0;
 constexpr std::size_t kStages = 8;
 constexpr std::size_t kRowsOfAStep = 4'096;  // of the progress
 
-std::vector<std::string> LinesOf(std::string_view text) {
-  const auto lines = SplitLines(text);
-  return {lines.begin(), lines.end()};
-}
-
-/// A number as the labels show it.
-std::string Shown(double number) {
-  return std::string(Trim(StrReal(number)));
-}
-
 /// The time between two readings of a clock that starts anew at midnight, as "0.25".
 std::string SecondsBetween(double start, double end) {
   constexpr double kDay = 24.0 * 60 * 60;
@@ -205,7 +195,7 @@ void AbsentStations::ListByCount(const std::vector<std::string>& absent) {
   std::ranges::reverse(lines);
   WriteScratch(kMaxToMin, lines);
   step_ = 12;
-  inverse_ = LinesOf(ports_.files.ReadAll(session_.workspace.store_scratch(kMaxToMin)));
+  inverse_ = CopyLines(ports_.files.ReadAll(session_.workspace.store_scratch(kMaxToMin)));
   ShowAbsentList(inverse_);
   form_.Call_mancanti.caption = form_.LB_lista.caption;
   step_ = 13;
@@ -280,7 +270,7 @@ bool AbsentStations::rintraccia_progressivo(const std::string& call) {
 
 void AbsentStations::ShowLog() {
   const std::string qsos = std::to_string(log_.lines.size());
-  const std::string points = Shown(log_.points);
+  const std::string points = NumberText(log_.points);
   form_.Log_assente.Fill(log_.lines);
   form_.n_qsoita_144.caption = form_.tot_qso144.caption = qsos;
   form_.km_qrbita144.caption = form_.tot_qrb144.caption = form_.punt_teorico144.caption = points;
@@ -288,7 +278,7 @@ void AbsentStations::ShowLog() {
   form_.progr_magg144.caption = std::to_string(log_.lines.empty() ? 0 : 1);
   if (!log_.lines.empty()) {
     form_.media_144.caption =
-        Shown(std::floor(log_.points / static_cast<double>(log_.lines.size())));
+        NumberText(std::floor(log_.points / static_cast<double>(log_.lines.size())));
   }
 }
 
@@ -310,7 +300,7 @@ void AbsentStations::stampa_assenti_Click() {
   PrintTrap([this] {
     WriteScratch(kPrinted, form_.Lista.items.rows());
     const std::string path = session_.workspace.store_scratch(kPrinted);
-    const auto rows = LinesOf(ports_.files.ReadAll(path));
+    const auto rows = CopyLines(ports_.files.ReadAll(path));
     ports_.printer.Print(AbsentListPages(rows, session_.category_month));
     ports_.files.Remove(path);
   });

@@ -73,9 +73,7 @@ struct StatisticsDesk {
 
   /// The lines of a file in the folder of the store.
   Names Read(const std::string& name) {
-    const std::string text = workspace.Read("Trofeo_Velmar/" + name);
-    const auto lines = SplitLines(text);
-    return {lines.begin(), lines.end()};
+    return CopyLines(workspace.Read("Trofeo_Velmar/" + name));
   }
 
   /// The cells of a grid's row.
