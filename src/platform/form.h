@@ -31,9 +31,11 @@ enum class ControlKind {
 
 /// Colours as the numbers that the program uses: red in the lowest byte, then green, then blue.
 namespace colour {
+inline constexpr int kBlack = 0;
 inline constexpr int kRed = 255;
 inline constexpr int kGreen = 65280;
 inline constexpr int kYellow = 65535;
+inline constexpr int kBlue = 0xFF0000;
 inline constexpr int kLightRed = 0x8080FF;
 inline constexpr int kWhite = 0xFFFFFF;
 }  // namespace colour

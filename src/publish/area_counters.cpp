@@ -67,8 +67,8 @@ std::optional<CallArea> FirstPrefixOf(std::string_view call, std::span<const Are
   return test == tests.end() ? std::nullopt : std::optional(test->area);
 }
 
-std::optional<CallArea> AreaOfEnding(std::string_view ending, std::span<const AreaText> tests) {
-  const auto test = std::ranges::find(tests, ending, &AreaText::text);
+std::optional<CallArea> AreaOfText(std::string_view text, std::span<const AreaText> tests) {
+  const auto test = std::ranges::find(tests, text, &AreaText::text);
   return test == tests.end() ? std::nullopt : std::optional(test->area);
 }
 
@@ -91,7 +91,7 @@ std::optional<CallArea> PortableArea(std::string_view call) {
     return std::nullopt;
   }
   const std::string_view written = Trim(call);
-  if (const auto area = AreaOfEnding(Right(written, kPrefix.width), kPortable)) {
+  if (const auto area = AreaOfText(Right(written, kPrefix.width), kPortable)) {
     return area;
   }
   if (const auto area = FirstPrefixOf(call, kPortable)) {
@@ -153,11 +153,11 @@ std::vector<CallArea> LoggingAreas(std::string_view row) {
   }
   const std::string_view call = Trim(Cut(row, kCall));
   const std::string_view prefix = Cut(row, kPrefix);
-  if (Holds(call, "/") && (Decides(areas, AreaOfEnding(Right(call, kPrefix.width), kSpecial)) ||
+  if (Holds(call, "/") && (Decides(areas, AreaOfText(Right(call, kPrefix.width), kSpecial)) ||
                            Decides(areas, AreaOfDigits(Right(call, 1), kDigits, 0)))) {
     return areas;
   }
-  if (Decides(areas, AreaOfEnding(prefix, kSpecial))) {
+  if (Decides(areas, AreaOfText(prefix, kSpecial))) {
     return areas;
   }
   for (const char digit : kDigits) {

@@ -12,10 +12,15 @@
 namespace velmar {
 
 /// The areas in the order of the statistics, which is not that of the classifications.
-inline constexpr std::array<CallArea, 14> kPrintedAreas = {
+inline constexpr std::array<CallArea, kCallAreaNames.size()> kPrintedAreas = {
     CallArea::kI0,  CallArea::kIX1, CallArea::kI1, CallArea::kI2, CallArea::kI3,
     CallArea::kIN3, CallArea::kIV3, CallArea::kI4, CallArea::kI5, CallArea::kI6,
     CallArea::kI7,  CallArea::kI8,  CallArea::kI9, CallArea::kIS0};
+
+/// The name of an area where calls on the air are told: the ninth goes by its prefix there.
+constexpr std::string_view OnAirName(CallArea area) {
+  return area == CallArea::kI9 ? "IT9" : NameOf(area);
+}
 
 /// A count for each call area.
 class AreaCounters {
@@ -25,7 +30,7 @@ class AreaCounters {
   int total() const { return std::accumulate(counts_.begin(), counts_.end(), 0); }
 
  private:
-  std::array<int, 14> counts_{};
+  std::array<int, kCallAreaNames.size()> counts_{};
 };
 
 /// The area of a digit, "1" to "9" or "0".

@@ -114,8 +114,10 @@ CallsWorked::Counts CallsWorked::WriteZones(const std::string& category,
   Counts counts;
   for (const Zone& zone : kZones) {
     const ZoneCalls calls = FindZoneCalls(rows, zone.name);
-    files_.WriteAll(MonthFiles(session_).zone_calls(category, true, zone.name), TextOfLines(calls.italian));
-    files_.WriteAll(MonthFiles(session_).zone_calls(category, false, zone.name), TextOfLines(calls.foreign));
+    files_.WriteAll(MonthFiles(session_).zone_calls(category, true, zone.name),
+                    TextOfLines(calls.italian));
+    files_.WriteAll(MonthFiles(session_).zone_calls(category, false, zone.name),
+                    TextOfLines(calls.foreign));
     counts.italian[zone.area] = static_cast<int>(calls.italian.size());
     counts.foreign[zone.area] = static_cast<int>(calls.foreign.size());
   }

@@ -177,8 +177,9 @@ void ContestTotals::CountLogs(const CountedRows& classification) {
   std::string head;
   AddLine(head, Join("Categoria 2IT - 144 MHz ", Lower(session_.category_month)));
   AddLine(head, " ");
-  files_.WriteAll(MonthFiles(session_).statistics(),
-                  Join(head, NumberLine("Log totali    ", std::max<std::ptrdiff_t>(logs, 0)), total));
+  files_.WriteAll(
+      MonthFiles(session_).statistics(),
+      Join(head, NumberLine("Log totali    ", std::max<std::ptrdiff_t>(logs, 0)), total));
   trap_.At(4);
   // The QSOs of foreign stations are those beyond a total that was copied just before: always none.
   files_.Append(MonthFiles(session_).band_counts(kContestBand.label),

@@ -2,7 +2,8 @@
 
 namespace velmar::map_colour {
 
-/// The colours of the maps. Those of the background are quiet, and none is near a mark's.
+/// The colours of the backgrounds of the maps: quiet ones, and none is near a mark's, which has
+/// those of the windows.
 
 constexpr int Rgb(int red, int green, int blue) {
   return red | green << 8 | blue << 16;
@@ -17,11 +18,5 @@ inline constexpr int kSquareLine = Rgb(206, 212, 214);
 inline constexpr int kFieldLine = Rgb(168, 180, 188);
 inline constexpr int kSquareName = Rgb(128, 138, 146);
 inline constexpr int kFieldName = Rgb(92, 106, 120);
-
-inline constexpr int kBlack = 0;
-inline constexpr int kRed = 255;
-inline constexpr int kGreen = 65280;
-inline constexpr int kYellow = 65535;
-inline constexpr int kBlue = 0xFF0000;
 
 }  // namespace velmar::map_colour

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/text.h"
+#include "publish/map_colours.h"
 
 namespace velmar {
 
@@ -27,7 +28,7 @@ constexpr std::array<MapView, 7> kMapViews = {
       .north = 61,
       .square_width = 39,
       .square_height = 19,
-      .square = {map_colour::kYellow, map_colour::kRed, 7},
+      .square = {colour::kYellow, colour::kRed, 7},
       .keeps_year = true},
      {.title = "Italia nord", .west = 4, .north = 48, .square_width = 147, .square_height = 105},
      {.title = "Italia centro", .west = 6, .north = 45, .square_width = 147, .square_height = 105},
@@ -42,7 +43,7 @@ constexpr std::array<MapView, 7> kMapViews = {
       .north = 55,
       .square_width = 42,
       .square_height = 29.4,
-      .locator = {map_colour::kGreen, map_colour::kBlack, 3}},
+      .locator = {colour::kGreen, colour::kBlack, 3}},
      {.title = "Balcani", .west = 8, .north = 47, .square_width = 63, .square_height = 42},
      {.title = "Tutti gli squares",
       .kind = MapKind::kFieldLevel,
@@ -50,7 +51,7 @@ constexpr std::array<MapView, 7> kMapViews = {
       .north = 74,
       .square_width = 21,
       .square_height = 10.5,
-      .locator = {map_colour::kGreen, map_colour::kBlack, 2},
+      .locator = {colour::kGreen, colour::kBlack, 2},
       .keeps_year = true}}};
 
 /// The grid of the general map, which is drawn to these numbers: the left edges of the fields I, J
@@ -141,11 +142,11 @@ void AddGrid(Picture& picture, const MapView& view) {
   const Point origin = ToMap(view, {0, 0});
   for (double x = 0; x <= kMapWidth; x += kLineStep) {
     const bool border = OnStep(x - origin.x, view.square_width * cells);
-    AddUpright(picture, x, map_colour::kGreen, border ? kWide : kThin);
+    AddUpright(picture, x, colour::kGreen, border ? kWide : kThin);
   }
   for (double y = 0; y <= kMapHeight; y += kLineStep) {
     const bool border = OnStep(y - origin.y, view.square_height * cells);
-    AddLevel(picture, y, map_colour::kGreen, border ? kWide : kThin);
+    AddLevel(picture, y, colour::kGreen, border ? kWide : kThin);
   }
 }
 
@@ -207,10 +208,10 @@ Picture FieldLines(const MapView& view) {
     return picture;
   }
   for (const double x : {194, 195, 584, 585}) {
-    AddUpright(picture, x, map_colour::kRed, 1);
+    AddUpright(picture, x, colour::kRed, 1);
   }
   for (const double y : {19, 20, 209, 210, 399, 400}) {
-    AddLevel(picture, y, map_colour::kRed, 1);
+    AddLevel(picture, y, colour::kRed, 1);
   }
   return picture;
 }

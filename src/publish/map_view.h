@@ -4,8 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/form.h"
 #include "platform/picture.h"
-#include "publish/map_colours.h"
 #include "publish/map_outlines.h"
 
 namespace velmar {
@@ -37,10 +37,10 @@ struct MapView {
   double north = 0;  ///< latitude of its upper edge, in degrees
   double square_width = 0;
   double square_height = 0;  ///< of a square of the locator grid, in units
-  MarkStyle locator = {map_colour::kYellow, map_colour::kRed, 2};
-  MarkStyle square = {map_colour::kYellow, map_colour::kRed, 5};
-  MarkStyle participant = {map_colour::kRed, map_colour::kBlue, 2};
-  MarkStyle earlier_square = {map_colour::kBlue, map_colour::kBlue, 2};  ///< of months before
+  MarkStyle locator = {colour::kYellow, colour::kRed, 2};
+  MarkStyle square = {colour::kYellow, colour::kRed, 5};
+  MarkStyle participant = {colour::kRed, colour::kBlue, 2};
+  MarkStyle earlier_square = {colour::kBlue, colour::kBlue, 2};  ///< of months before
   bool keeps_year = false;  ///< squares drawn on it go to the lists of the year
 };
 

@@ -143,10 +143,7 @@ std::string CountriesText(const OnAirCounts& counts) {
   std::string text;
   for (std::size_t i = 0; i < kCallAreaNames.size(); ++i) {
     const auto area = static_cast<CallArea>(i);
-    text += PrintLine()
-                .Text(Join(area == CallArea::kI9 ? "IT9" : NameOf(area), "  "))
-                .Number(counts.areas[area])
-                .End();
+    text += PrintLine().Text(Join(OnAirName(area), "  ")).Number(counts.areas[area]).End();
   }
   // The comma at the end leaves the line open: the first of the blank lines goes on in it.
   text += PrintLine()

@@ -86,22 +86,22 @@ void Statistics::TellDx() {
 
 void Statistics::loc_onair_144_tot_Click() {
   constexpr std::size_t kLocator = 6;
-  List(form_.loc_onair_144_tot, kLocator);
+  ShowOrHideList(form_.loc_onair_144_tot, kLocator);
 }
 
 void Statistics::sqr_onair_144_tot_Click() {
   constexpr std::size_t kSquare = 4;
-  List(form_.sqr_onair_144_tot, kSquare);
+  ShowOrHideList(form_.sqr_onair_144_tot, kSquare);
 }
 
 void Statistics::field_onair_144_tot_Click() {
   constexpr std::size_t kField = 2;
-  List(form_.field_onair_144_tot, kField);
+  ShowOrHideList(form_.field_onair_144_tot, kField);
 }
 
 /// Lists the locators that were worked by their first `width` characters, or hides the list that
 /// the caption stands for.
-void Statistics::List(Label& caption, std::size_t width) {
+void Statistics::ShowOrHideList(Label& caption, std::size_t width) {
   const bool shown = form_.Lista_sqr_fld_loc.visible && caption.colour == colour::kYellow;
   for (Label* label :
        {&form_.loc_onair_144_tot, &form_.sqr_onair_144_tot, &form_.field_onair_144_tot}) {

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <string>
 
 #include "platform/ports.h"
 #include "publish/area_counters.h"
@@ -38,7 +37,7 @@ class Statistics {
  private:
   void JoinControls();
   void TellDx();
-  void List(Label& caption, std::size_t width);
+  void ShowOrHideList(Label& caption, std::size_t width);
   void ShowPage(bool map);
 
   ContestSession& session_;

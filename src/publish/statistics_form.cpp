@@ -4,14 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "model/text.h"
 #include "publish/area_counters.h"
 #include "publish/countries.h"
 #include "publish/field_counters.h"
+#include "publish/map_view.h"
 
 namespace velmar {
 
 StatisticsForm::StatisticsForm()
-    : Form("VLM2M_09_statistica", "Statistiche"), map(820, 513, colour::kWhite) {
+    : Form("VLM2M_09_statistica", "Statistiche"), map(kMapWidth, kMapHeight, colour::kWhite) {
   LabelItalia();
   LabelEstero();
   Grid_field.Shape(2, kFields.size() + 1);
@@ -32,13 +34,17 @@ StatisticsForm::StatisticsForm()
   nome_call.visible = false;
 }
 
+Option& StatisticsForm::AddMap(std::size_t number) {
+  return In(Frame_mappa,
+            AddOption(Join("Option", number), std::string(MapViews().at(number - 1).title)));
+}
+
 void StatisticsForm::LabelItalia() {
   Grid_italia.Shape(2, kTotalColumn + 1);
   Grid_italia.Set(0, 0, "ON AIR");
   Grid_italia.Set(1, 0, "144");
   for (std::size_t column = 1; column <= kPrintedAreas.size(); ++column) {
-    const CallArea area = kPrintedAreas[column - 1];
-    Grid_italia.Set(0, column, area == CallArea::kI9 ? "IT9" : NameOf(area));
+    Grid_italia.Set(0, column, OnAirName(kPrintedAreas[column - 1]));
   }
   Grid_italia.Set(0, kTotalColumn, "Totale");
 }

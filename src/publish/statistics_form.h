@@ -5,7 +5,6 @@
 #include <functional>
 #include <string>
 
-#include "platform/ansi.h"
 #include "platform/form.h"
 #include "platform/picture.h"
 #include "publish/field_counters.h"
@@ -74,13 +73,13 @@ class StatisticsForm : public Form {
                                                               "10 G", "24 G", "50", "1EC"}));
   Button& mappa = In(Frame_grafica, AddButton("mappa", "mappa 1"));
   Frame& Frame_mappa = In(Frame_grafica, AddLabel("Frame_mappa", "Mappa"));
-  Option& Option1 = AddMap("Option1", "Europa");
-  Option& Option2 = AddMap("Option2", "Italia nord");
-  Option& Option3 = AddMap("Option3", "Italia centro");
-  Option& Option4 = AddMap("Option4", "Italia sud e isole");
-  Option& Option5 = AddMap("Option5", "Europa occidentale");
-  Option& Option6 = AddMap("Option6", "Balcani");
-  Option& Option7 = AddMap("Option7", "Tutti gli squares");
+  Option& Option1 = AddMap(1);
+  Option& Option2 = AddMap(2);
+  Option& Option3 = AddMap(3);
+  Option& Option4 = AddMap(4);
+  Option& Option5 = AddMap(5);
+  Option& Option6 = AddMap(6);
+  Option& Option7 = AddMap(7);
 
   Check& check_Field = In(Frame_mappa, AddCheck("check_Field", "Locator on air"));
   Check& Check_part = In(Frame_mappa, AddCheck("Check_part", "Partecipanti"));
@@ -132,9 +131,8 @@ class StatisticsForm : public Form {
  private:
   void LabelItalia();
   void LabelEstero();
-  Option& AddMap(const std::string& name, const std::string& caption) {
-    return In(Frame_mappa, AddOption(name, caption));
-  }
+  /// The choice of a map by its number, counted from 1.
+  Option& AddMap(std::size_t number);
 };
 
 }  // namespace velmar
