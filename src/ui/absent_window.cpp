@@ -22,7 +22,6 @@ namespace {
 
 constexpr QSize kSmallest(1000, 660);
 constexpr QSize kUsual(1160, 820);
-constexpr int kGap = 4;
 constexpr int kProgressWidth = 200;
 constexpr int kFewRows = 3;    // of a list, at least
 constexpr int kListsPart = 5;  // of the height

@@ -62,8 +62,6 @@ class CheckWindow : public FormWindow {
   void SetKeys();
   void TellKeys();
 
-  static constexpr int kGap = 4;  ///< px
-
   struct Key {
     const Button* button;
     const QWidget* widget;

@@ -10,6 +10,7 @@ namespace velmar {
 // Distances between things of a window, in px.
 inline constexpr int kMargin = 14;
 inline constexpr int kSpacing = 8;
+inline constexpr int kGap = 4;
 
 /// Gives the whole application its style, colours and font sizes.
 void ApplyLook();

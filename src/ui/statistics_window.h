@@ -55,8 +55,6 @@ class StatisticsWindow : public FormWindow {
   static QBoxLayout* MakeRows(QWidget& box);
   void AddButtons(QGridLayout& grid, const std::vector<Button*>& buttons, int in_a_row);
 
-  static constexpr int kGap = 4;  ///< px
-
   /// What stands in the place of a number as long as there is none.
   struct Blank {
     QWidget* widget;

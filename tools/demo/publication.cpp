@@ -45,8 +45,7 @@ void DrawMap(PlayedProgram& program) {
            "click mappa\n"
            "tick Check_tutti\n"
            "click esegui\n"
-           "input ",
-           "Contest 144 MHz\n"
+           "input Contest 144 MHz\n"
            "click scrivi_label\n"
            "pick ",
            kMapName, "\nclick Salva_statistica2\n"));
