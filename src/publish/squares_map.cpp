@@ -22,6 +22,8 @@ constexpr double kLabelHeight = 18;
 constexpr int kContactColour = 0x804000;
 constexpr double kDxWidth = 2.5;
 
+constexpr std::string_view kWorked = "Squares collegati = ";
+
 /// A row of the list of participants: the call, then the category.
 constexpr Column kListedCall{1, 12};
 constexpr Column kListedCategory{13, 3};
@@ -76,7 +78,10 @@ SquaresMap::SquaresMap(ContestSession& session, const Ports& ports, StatisticsTr
 }
 
 void SquaresMap::On(Control& control, void (SquaresMap::*event)()) {
-  control.on_click = [this, event] { trap_.Procedure([this, event] { (this->*event)(); }); };
+  control.on_click = [this, event] {
+    trap_.Procedure([this, event] { (this->*event)(); });
+    Redraw();
+  };
 }
 
 std::string SquaresMap::Participants(std::string_view category) const {
@@ -90,6 +95,7 @@ void SquaresMap::mappa_Click() {
 
 void SquaresMap::Option_Click(std::size_t map) {
   ChooseMap(map);
+  Redraw();
 }
 
 /// Another background: what was drawn lay elsewhere on the one before.
@@ -106,7 +112,6 @@ void SquaresMap::ChooseMap(std::size_t map) {
 void SquaresMap::ClearLayers() {
   layers_ = {};
   layers_.names = view_ >= kFirstNamedMap;
-  Redraw();
 }
 
 void SquaresMap::resetta_Click() {
@@ -122,7 +127,6 @@ void SquaresMap::illustra_Click() {
 void SquaresMap::linee_Click() {
   layers_.lines = true;
   layers_.names = true;
-  Redraw();
 }
 
 void SquaresMap::esegui_Click() {
@@ -164,7 +168,7 @@ void SquaresMap::PlotLocators() {
        CountedRows(files_, MonthFiles(session_).locators(band_->file_name))) {
     Mark(locator, View().locator);
   }
-  ShowCounters("Squares collegati = ");
+  ShowCounters(kWorked);
 }
 
 void SquaresMap::PlotParticipants() {
@@ -182,7 +186,7 @@ void SquaresMap::PlotParticipants() {
     }
   }
   form_.Lista_partecipanti.Fill(std::move(listed));
-  ShowCounters("Squares collegati = ");
+  ShowCounters(kWorked);
 }
 
 void SquaresMap::PlotSquares() {
@@ -198,7 +202,7 @@ void SquaresMap::PlotSquares() {
     form_.squares_old.caption = std::to_string(year_.Keep(band_->label, listed));
     form_.List2.Fill(std::move(listed));
   }
-  ShowCounters("Squares collegati = ");
+  ShowCounters(kWorked);
 }
 
 void SquaresMap::squares_old_Click() {
@@ -224,7 +228,6 @@ void SquaresMap::Mark(std::string_view locator, const MarkStyle& style) {
 void SquaresMap::ShowCounters(std::string_view text) {
   form_.Grid_field.SetRow(1, 0, counters_.Texts());
   form_.squares_collegati.caption = Join(text, counters_.total());
-  Redraw();
 }
 
 void SquaresMap::Lista_partecipanti_Click() {
@@ -237,7 +240,6 @@ void SquaresMap::Lista_partecipanti_Click() {
     ShowLabel(std::string(call));
   }
   PlotContacts(call, Cut(*row, kListedCategory));
-  Redraw();
 }
 
 std::string SquaresMap::DeclaredLocator(std::string_view call, std::string_view category) const {
@@ -285,7 +287,6 @@ void SquaresMap::scrivi_label_Click() {
   if (text && *text != "*") {
     label_by_hand_ = true;
     ShowLabel(*text);
-    Redraw();
   }
 }
 
@@ -301,12 +302,10 @@ void SquaresMap::HideLabel() {
 
 void SquaresMap::no_label_Click() {
   HideLabel();
-  Redraw();
 }
 
 void SquaresMap::res_pos_label_Click() {
   label_place_ = kLabelPlace;
-  Redraw();
 }
 
 void SquaresMap::Salva_statistica2_Click() {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/picture.h"
@@ -26,6 +26,22 @@ class SquaresMap {
   SquaresMap(ContestSession& session, const Ports& ports, StatisticsTrap& trap,
              StatisticsForm& form);
 
+  /// Draws the line of the DX between two locators, on this map and on those chosen later.
+  void ShowDx(const std::string& from, const std::string& to);
+
+ private:
+  /// What is drawn over the background, in the order of the layers.
+  struct Layers {
+    std::vector<Shape> marks;
+    std::vector<Shape> contacts;  ///< of one participant
+    bool lines = false;           ///< of the fields, or of the grid of a closer map
+    bool names = false;           ///< of the same
+  };
+
+  /// Joins an event to a control. The map is drawn once behind it, and also where it failed, so
+  /// that what was plotted up to then is to be seen.
+  void On(Control& control, void (SquaresMap::*event)());
+
   void mappa_Click();
   /// Chooses a map by its number, counted from 0.
   void Option_Click(std::size_t map);
@@ -41,19 +57,6 @@ class SquaresMap {
   void Salva_statistica2_Click();
   void Stampa_form_statistica2_Click();
 
-  /// Draws the line of the DX between two locators, on this map and on those chosen later.
-  void ShowDx(const std::string& from, const std::string& to);
-
- private:
-  /// What is drawn over the background, in the order of the layers.
-  struct Layers {
-    std::vector<Shape> marks;
-    std::vector<Shape> contacts;  ///< of one participant
-    bool lines = false;           ///< of the fields, or of the grid of a closer map
-    bool names = false;           ///< of the same
-  };
-
-  void On(Control& control, void (SquaresMap::*event)());
   const MapView& View() const { return MapViews().at(view_); }
   std::string Participants(std::string_view category) const;
 

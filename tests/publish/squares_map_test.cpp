@@ -139,6 +139,7 @@ TEST(SquaresMap, ABrokenDiskLeavesEachListOldOrNew) {
     desk.files.break_at_change = change;
     desk.Plot(desk.form.check_squares);
     EXPECT_EQ(desk.manager.boxes.size(), 1U) << change;
+    EXPECT_EQ(desk.Drawn<Disc>().size(), 2U) << "what was plotted is to be seen";
     desk.files.break_at_change = 0;
     desk.Plot(desk.form.check_squares);
     EXPECT_EQ(desk.Read("XA  144  Squares_anno.ann"), (Names{"IL18", "JN45", "JN61"})) << change;
