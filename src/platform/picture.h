@@ -76,7 +76,6 @@ class Picture {
   void Add(const Picture& other) {
     shapes_.insert(shapes_.end(), other.shapes_.begin(), other.shapes_.end());
   }
-  void Clear() { shapes_.clear(); }
 
  private:
   double width_;

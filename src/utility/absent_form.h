@@ -96,11 +96,14 @@ class AbsentForm : public Form {
       "IL CONTEST DI CHI NON C'ERA.   Qui possiamo vedere chi sono i call che hanno fatto qso con "
       "gli OM in contest ma non hanno inviato il log.";
   static constexpr AnsiView kLeft =
-      "Nella finestra a sx sono elencati tutti i call trovati nei log arrivati e, in quanti log il call è presente."_a;
+      "Nella finestra a sx sono elencati tutti i call trovati nei log arrivati e, in quanti log "
+      "il call è presente."_a;
   static constexpr AnsiView kCentre =
-      "In centro c'è l'elenco dei call che non hanno inviato il log e il numero di qso trovati negli altri log"_a;
+      "In centro c'è l'elenco dei call che non hanno inviato il log e il numero di qso trovati "
+      "negli altri log"_a;
   static constexpr AnsiView kRight =
-      "Nella finestra a dx lo stesso elenco in ordine di qso del quale è possibile ricostruire il log teorico."_a;
+      "Nella finestra a dx lo stesso elenco in ordine di qso del quale è possibile ricostruire "
+      "il log teorico."_a;
 };
 
 }  // namespace velmar

@@ -72,9 +72,7 @@ struct StatisticsDesk {
   }
 
   /// The lines of a file in the folder of the store.
-  Names Read(const std::string& name) {
-    return CopyLines(workspace.Read("Trofeo_Velmar/" + name));
-  }
+  Names Read(const std::string& name) { return CopyLines(workspace.Read("Trofeo_Velmar/" + name)); }
 
   /// The cells of a grid's row.
   static Names Cells(const Grid& grid, std::size_t row) {
