@@ -148,6 +148,11 @@ struct DeskFixture {
     return {lines.begin() + std::min(lines.size(), kErrorListHeadLines), lines.end()};
   }
 
+  /// Errors, points lost and points left, as the desk shows them.
+  std::string Score() const {
+    return Join(form.err_count.caption, " ", form.err_qrb.caption, " ", form.qrb_finale.caption);
+  }
+
   TempWorkspace workspace;
   FailingFileSystem files{workspace.files()};
   ScriptedManager manager;
@@ -161,8 +166,14 @@ struct DeskFixture {
   MainForm main;
   ContestStore store{files, session.workspace};
   CheckForm form;
-  CheckDesk desk{session, {files, manager, clock, machine, web, printer, pictures}, store, screen, main,
-                 form};
+  CheckDesk desk{
+      session, {files, manager, clock, machine, web, printer, pictures}, store, screen, main, form};
 };
+
+/// The box of an error that a procedure of the desk ends with.
+inline Box DeskFailure(int error, int step) {
+  return Told(Join(" errore imprevisto numero: ", error, " nella linea : ", step,
+                   " Modulo controlli   Contatta l' autore del software_0.0.8"));
+}
 
 }  // namespace velmar::test

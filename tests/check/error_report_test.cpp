@@ -139,7 +139,7 @@ TEST(ErrorReport, AListThatCannotBeReadOrWrittenLeavesAllAsItWas) {
   const auto refused = [&](int number) {
     desk.manager.boxes.clear();
     desk.Decide(desk.form.not_inlog);
-    EXPECT_EQ(desk.manager.boxes, std::vector{Failure(number, 44)});
+    EXPECT_EQ(desk.manager.boxes, std::vector{DeskFailure(number, 44)});
     EXPECT_EQ(desk.Doubts(), Names{"I1QXX"});
     EXPECT_EQ(desk.Score(), "0 0 5000");
     EXPECT_EQ(desk.form.evidenzia.caption, row);

@@ -169,7 +169,7 @@ TEST(LocatorCheck, TheComparisonTakesSevenHundredParticipants) {
   EXPECT_EQ(desk.Doubts(), Names{"IZ9QBC"});
   desk.form.exit.Click();
   desk.Declared("I1QZZ", "JN44BB").Checked();
-  EXPECT_EQ(desk.manager.boxes.back(), Failure(9, 20));
+  EXPECT_EQ(desk.manager.boxes.back(), DeskFailure(9, 20));
   EXPECT_EQ(desk.Doubts(), Names{});
   EXPECT_FALSE(desk.form.unici.enabled);
 }

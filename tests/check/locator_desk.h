@@ -71,17 +71,6 @@ struct LocatorDesk : DeskFixture {
     }
     return calls;
   }
-
-  /// Errors, points lost and points left, as the desk shows them.
-  std::string Score() const {
-    return Join(form.err_count.caption, " ", form.err_qrb.caption, " ", form.qrb_finale.caption);
-  }
 };
-
-/// The box that the desk shows of a failure.
-inline Box Failure(int number, int step) {
-  return {.lines = {Join(" errore imprevisto numero: ", number, " nella linea : ", step,
-                         " Modulo controlli   Contatta l' autore del software_0.0.8")}};
-}
 
 }  // namespace velmar::test

@@ -277,9 +277,7 @@ TEST(LogViews, RowsCutShortAreReadAsFarAsTheyGo) {
   desk.files.Remove(desk.session.workspace.store_file(StoreFile::kSommaQso));
   desk.manager.boxes.clear();
   desk.form.vedi_log2.Click();
-  EXPECT_EQ(desk.manager.TakeFirstLines(),
-            Names{" errore imprevisto numero: 53 nella linea : 113 Modulo controlli   Contatta l' "
-                  "autore del software_0.0.8"});
+  EXPECT_EQ(desk.manager.boxes, std::vector{DeskFailure(53, 113)});
 }
 
 }  // namespace

@@ -314,10 +314,7 @@ TEST(NotInLogCheck, ALogOfMoreThanAThousandQsosEndsTheSearch) {
         .Log("IZ9QBC", "JM67AA", {{"IK2QAA", "JN45AA"}})
         .Searched();
     const bool fails = qsos > 1000;
-    EXPECT_EQ(desk.manager.TakeFirstLines(),
-              fails ? Names{" errore imprevisto numero: 9 nella linea : 90 Modulo controlli   "
-                            "Contatta l' autore del software_0.0.8"}
-                    : Names{});
+    EXPECT_EQ(desk.manager.boxes, fails ? std::vector{DeskFailure(9, 90)} : std::vector<Box>{});
     EXPECT_EQ(desk.form.ric_notinlog.caption, "");
     EXPECT_EQ(desk.form.aggiorna_punt_class.enabled, !fails);
   }

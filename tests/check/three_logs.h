@@ -37,10 +37,4 @@ inline DeskFixture& MarkChecked(DeskFixture& desk, const Names& calls) {
   return desk;
 }
 
-/// The box of an error that a procedure of the desk ends with.
-inline Box DeskFailure(int error, int step) {
-  return Told(Join(" errore imprevisto numero: ", error, " nella linea : ", step,
-                   " Modulo controlli   Contatta l' autore del software_0.0.8"));
-}
-
 }  // namespace velmar::test

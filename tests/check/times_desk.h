@@ -41,11 +41,6 @@ struct TimesDesk : DeskFixture {
   std::string Tempi() { return workspace.Read("Trofeo_Velmar/2IT/2ITtempi.txt"); }
 
   std::string StorePath() { return session.workspace.store_file(StoreFile::kSommaQso, kCategory); }
-
-  /// Errors, points lost and points left, as the desk shows them.
-  std::string Score() const {
-    return Join(form.err_count.caption, " ", form.err_qrb.caption, " ", form.qrb_finale.caption);
-  }
 };
 
 }  // namespace velmar::test

@@ -85,11 +85,6 @@ struct UniqueDesk : DeskFixture {
     return items;
   }
 
-  /// Errors, points lost and points left, as the desk shows them.
-  std::string Score() const {
-    return Join(form.err_count.caption, " ", form.err_qrb.caption, " ", form.qrb_finale.caption);
-  }
-
  private:
   std::string somma_;
 };

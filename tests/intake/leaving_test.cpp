@@ -8,12 +8,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FailingFileSystem;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 class LeavingTest : public testing::Test {
  protected:
@@ -95,4 +91,4 @@ TEST_F(LeavingTest, AProtectedTextStopsTheClearingAndTheProgramEnds) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

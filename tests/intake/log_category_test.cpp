@@ -3,13 +3,8 @@
 #include "intake/insertion_desk.h"
 #include "model/text.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::Names;
-using test::Told;
 
 constexpr const char* kName = "2IT_IK2QAA.edi";
 const Box kWrongCategory{.lines = {" ATTENZIONE,  !!!  Freq. o Categoria mancante o errata  !!!"},
@@ -74,4 +69,4 @@ TEST(LogCategoryTest, ACategoryIsAssignedAndTheLogReadAgain) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

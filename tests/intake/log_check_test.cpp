@@ -6,11 +6,8 @@
 #include "model/text.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::LogText;
-using test::QsoRow;
 
 std::string WithoutRow(const std::string& log, std::string_view holding) {
   std::string kept;
@@ -114,4 +111,4 @@ TEST(FindLogFault, SurvivesEveryTruncationAndChangedByte) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -6,16 +6,8 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ExpectFiles;
-using test::Files;
-using test::FirstStore;
-using test::InsertionDesk;
-using test::kGood;
-using test::kName;
-using test::Names;
 
 TEST(LogFilingFailureTest, ARefusedAppendIsToldAndTheFilingGoesOn) {
   InsertionDesk times;
@@ -92,4 +84,4 @@ TEST(LogFilingFailureTest, NoLogIsLostWhereverTheDiskFails) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

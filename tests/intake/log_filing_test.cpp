@@ -6,19 +6,8 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ContestQso;
-using test::ExpectFiles;
-using test::Files;
-using test::FirstStore;
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::kGood;
-using test::kName;
-using test::Names;
-using test::Text;
 
 TEST(LogFilingTest, TheFirstLogMakesTheStore) {
   InsertionDesk desk;
@@ -248,4 +237,4 @@ TEST(LogFilingTest, NothingIsFiledThatWasNotAccepted) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

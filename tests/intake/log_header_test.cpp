@@ -8,15 +8,13 @@
 #include "model/text.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
 
 std::optional<ValueFault> TakeDeclared(IntakeState& state) {
   const auto fault = TakeCounts(state);
   return fault ? fault : TakeTotals(state);
 }
-
-using test::InsertableLog;
 
 IntakeState Taken(const InsertableLog& log) {
   IntakeState state;
@@ -226,4 +224,4 @@ TEST(LogHeaderTest, RemarksEndAtTheQsos) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -10,10 +10,8 @@
 #include "platform/error.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::LogText;
 
 /// A good log with one of its rows, by its number from 1, put in place of what stands there.
 std::string LogWithRow(std::size_t number, std::string_view row) {
@@ -158,4 +156,4 @@ TEST(WithSection, PutsTheSectionInCapitalsIntoItsRowAlone) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -7,13 +7,8 @@
 #include "intake/insertion_desk.h"
 #include "model/text.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ContestQso;
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::Names;
 
 const std::string kGood = InsertableLog().Text();
 constexpr const char* kFiled = "Trofeo_Velmar/2IT";
@@ -163,4 +158,4 @@ TEST(LogInputTest, ALogChosenInAnotherFolderIsNeverLost) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -4,16 +4,8 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ContestQso;
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::kPassFailed;
-using test::Lines;
-using test::Names;
-using test::Told;
 
 constexpr const char* kName = "2IT_IK2QAA.edi";
 const std::string kGood = InsertableLog().Text();
@@ -294,4 +286,4 @@ TEST(LogReadingTest, NothingToReadOrNoMonth) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

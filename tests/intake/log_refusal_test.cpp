@@ -4,16 +4,9 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
 
-using test::ContestQso;
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::kPassFailed;
-using test::Lines;
-using test::Names;
-using test::Told;
 using Boxes = std::vector<Box>;
 
 /// A log that is refused: what the manager reads, and where it lies afterwards.
@@ -330,4 +323,4 @@ TEST(LogRefusalTest, RowsThatThePassRefuses) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

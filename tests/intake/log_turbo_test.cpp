@@ -2,13 +2,8 @@
 
 #include "intake/insertion_desk.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ContestQso;
-using test::InsertableLog;
-using test::InsertionDesk;
-using test::Names;
 
 const std::string kA = InsertableLog().Text();
 const std::string kB = InsertableLog().Of("IK2QAB").Text();
@@ -117,4 +112,4 @@ TEST(LogTurboTest, AnotherFolderIsReadToItsEnd) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -9,10 +9,9 @@
 #include "platform/error.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
 
-using test::ContestQso;
 using Rows = std::vector<std::string>;
 
 /// A pass over the rows of IK2QAA in JN45AA, and what it told.
@@ -227,4 +226,4 @@ TEST(MarkDoublesTest, AgreesWithALookThroughAllLaterRows) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

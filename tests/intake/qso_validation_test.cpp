@@ -7,12 +7,8 @@
 #include "model/store_rows.h"
 #include "model/text.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ContestQso;
-using test::InsertableLog;
-using test::InsertionDesk;
 
 /// Runs the pass over a log of a category with CW QSOs, and gives what it lists of them.
 std::string CwQsosOf(const std::string& category, const std::string& section, IntakeState& log) {
@@ -58,4 +54,4 @@ TEST(QsoValidationTest, TheCwQsosOfTheirCategoryAloneAreListed) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

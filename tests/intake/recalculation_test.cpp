@@ -10,14 +10,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FailingFileSystem;
-using test::LogText;
-using test::QsoRow;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 /// The first step on a temporary workspace.
 class RecalculationTest : public testing::Test {
@@ -287,4 +281,4 @@ TEST_F(RecalculationTest, BadInputIsSetAsideOrToldAndNeverCrashes) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

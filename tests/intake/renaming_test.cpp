@@ -12,14 +12,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FailingFileSystem;
-using test::LogText;
-using test::QsoRow;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 using Names = std::vector<std::string>;
 
@@ -332,4 +326,4 @@ TEST(Renaming, NoLogIsLostWhereverTheDiskFails) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -5,11 +5,8 @@
 #include "platform/error.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::LogText;
-using test::QsoRow;
 
 TEST(RescoringAhead, GivesEachLogInItsTurnOverManyBatches) {
   std::vector<WaitingLog> logs;
@@ -43,4 +40,4 @@ TEST(RescoringAhead, KeepsTheRepairsAheadOfAnErrorAndTheErrorForItsTurn) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -8,11 +8,8 @@
 #include "platform/error.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::LogText;
-using test::QsoRow;
 
 const auto kNoRepair = [](const RowRepair& repair) {
   ADD_FAILURE() << "repaired: " << repair.before;
@@ -164,4 +161,4 @@ TEST(Rescore, ItsTablesAreBounded) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -7,11 +7,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 std::string IniText(std::initializer_list<const char*> lines) {
   std::string text;
@@ -131,4 +128,4 @@ TEST_F(ConfigTest, SavingRepairsEmptyValues) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

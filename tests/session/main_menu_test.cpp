@@ -7,12 +7,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FixedClock;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 using Lines = std::vector<std::string>;
 
@@ -176,7 +172,7 @@ TEST_F(MainMenuTest, DeletingALogIsANoticeOnly) {
 }
 
 TEST_F(MainMenuTest, AFailingItemIsToldAndTheScreenStays) {
-  test::FailingFileSystem files(workspace.files());
+  FailingFileSystem files(workspace.files());
   MainMenu failing(session, files, manager, trap, screen, form, months, {});
   files.broken_path = "03 Log da inserire";
   form.File1.visible = false;
@@ -198,4 +194,4 @@ TEST_F(MainMenuTest, AFailingItemIsToldAndTheScreenStays) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

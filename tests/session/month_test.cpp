@@ -9,12 +9,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FixedClock;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 TEST(Month, NamesAndDefaultsByDate) {
   EXPECT_EQ(MonthNameOf("21/01/2025"), "GENNAIO ");
@@ -104,7 +100,7 @@ TEST_F(MonthTest, TheMenuGivesTheStoreItsMonthOnce) {
 }
 
 TEST_F(MonthTest, AFailureNamesTheStepThatFailed) {
-  test::FailingFileSystem files(workspace.files());
+  FailingFileSystem files(workspace.files());
   files.broken_path = "mese.dat";
   MonthAssignment failing{session, files, manager, trap, clock};
   manager.inputs = {"gennaio 2025"};
@@ -155,4 +151,4 @@ TEST_F(MonthTest, TheContestDateIsReadOrAskedFor) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

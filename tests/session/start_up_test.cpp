@@ -11,15 +11,8 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::FailingFileSystem;
-using test::FakeMachine;
-using test::FakeWeb;
-using test::FixedClock;
-using test::ScriptedManager;
-using test::TempWorkspace;
 
 using Lines = std::vector<std::string>;
 
@@ -85,8 +78,8 @@ class StartUpTest : public testing::Test {
   FixedClock clock;
   FakeMachine machine;
   FakeWeb web;
-  test::RecordingPrinter printer;
-  test::RecordingPictures pictures;
+  RecordingPrinter printer;
+  RecordingPictures pictures;
   std::unique_ptr<StartedProgram> run;
 };
 
@@ -314,4 +307,4 @@ TEST_F(StartUpTest, NoFileStopsAStartInSilence) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

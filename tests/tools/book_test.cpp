@@ -11,11 +11,9 @@
 #include "support/doubles.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
 
-using test::FailingFileSystem;
-using test::TempWorkspace;
 using Records = std::vector<std::string>;
 
 /// A contest that reads like a sentence.
@@ -185,4 +183,4 @@ TEST(FiledContestOnDisk, NeedsADate) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test

@@ -8,12 +8,8 @@
 #include "model/text.h"
 #include "support/temp_workspace.h"
 
-namespace velmar {
+namespace velmar::test {
 namespace {
-
-using test::LogText;
-using test::QsoRow;
-using test::TempWorkspace;
 
 class PlayerTest : public testing::Test {
  protected:
@@ -178,4 +174,4 @@ TEST(JsonRecordTest, EscapesWhatJsonCannotHold) {
 }
 
 }  // namespace
-}  // namespace velmar
+}  // namespace velmar::test
