@@ -204,17 +204,6 @@ TEST(ArchiveLookUp, TheSquareIsLookedForInTheWholeStore) {
       std::vector{Told(" il file 'libreria_totale.tot' di categoria è assente. Attenzione "_a)});
 }
 
-TEST(ArchiveLookUp, AForeignCallIsLookedForInTheOtherLogs) {
-  ArchiveDesk desk;
-  desk.Checked();
-  desk.form.Call_unici.Fill({"IK2QAA      I1QXA       JN44BC 107  2"});
-  desk.form.Call_unici.selection = 0;
-  desk.form.Controlla_estero.Click();
-  EXPECT_EQ(desk.form.Lista_simili.items.rows(),
-            (Names{"IZ9QBC      I1QXX       JN44BB 100", "IV3QYY      I1QXX       JN44BB 100",
-                   "-------------------------------------------"}));
-}
-
 TEST(ArchiveBrowser, TheMenuOpensAndClosesItTheButtonOpensIt) {
   ArchiveDesk desk;
   desk.GoodBook().Loaded();

@@ -33,27 +33,6 @@ std::string Grades(std::string_view wanted, std::string_view candidate) {
   return grades;
 }
 
-TEST(CallComparison, CountsWhatIsPresentAndWhatIsInPlace) {
-  const struct {
-    const char *wanted, *candidate;
-    std::size_t present, in_place;
-    const char *present_map, *in_place_map;
-  } cases[] = {{"IK2ABC", "IK2ACB", 6, 4, "IK2ABC", "IK2A__"},
-               {"IW9QQQ", "IW9QQP", 6, 5, "IW9QQQ", "IW9QQ_"},  // a doubled letter counts twice
-               {"IK2ABC", "", 0, 0, "______", "______"},
-               {"IK2ABC", "I", 1, 1, "I_____", "I_____"},
-               {"I1A", "DL1QAA", 2, 0, "_1A", "___"},
-               {"IK2ABC", "ik2abc", 1, 1, "__2___", "__2___"},
-               {"IK2ABCDEF/PX", "IK2ABCDEF/PX", 10, 10, "IK2ABCDEF/", "IK2ABCDEF/"}};
-  for (const auto& [wanted, candidate, present, in_place, present_map, in_place_map] : cases) {
-    const CallComparison comparison = CompareCalls(wanted, candidate);
-    EXPECT_EQ(comparison.present, present) << wanted << " " << candidate;
-    EXPECT_EQ(comparison.in_place, in_place) << wanted << " " << candidate;
-    EXPECT_EQ(comparison.present_map, present_map);
-    EXPECT_EQ(comparison.in_place_map, in_place_map);
-  }
-}
-
 TEST(CallComparison, EachTestHitsWhereItsSumsSaySo) {
   const struct {
     const char *wanted, *candidate, *grades;

@@ -124,32 +124,6 @@ TEST(CheckLeaving, ADiskThatKeepsNoSettingsHoldsTheDeskOpen) {
   EXPECT_TRUE(desk.manager.boxes.empty());
 }
 
-TEST(CheckLeaving, ExitBreaksTheCheckOffAndTheNextStartRepairs) {
-  DeskFixture desk;
-  ThreeLogs(desk).Loaded();
-  const std::string head = desk.ErrorListOf("IK2QAA");
-  const std::string classification = desk.workspace.Read(kClassificationFile);
-  desk.Started("IK2QAA");
-  desk.form.Lista_dubbi.Select(0);
-  desk.form.not_inlog.Click();
-  ASSERT_EQ(desk.Decisions("IK2QAA").size(), 1U);
-  desk.form.no_control_time.Click();
-  const std::string ini = desk.workspace.Read("VartoVLM.ini");
-  desk.manager.boxes.clear();
-  desk.form.exit.Click();
-  EXPECT_TRUE(desk.manager.boxes.empty());
-  EXPECT_TRUE(desk.main.visible() && !desk.form.visible());
-  EXPECT_EQ(desk.workspace.Read(kClassificationFile), classification);
-  EXPECT_EQ(desk.workspace.Read("VartoVLM.ini"), ini) << "the options are not kept";
-  EXPECT_EQ(desk.Decisions("IK2QAA").size(), 1U);
-
-  desk.Loaded();
-  EXPECT_EQ(desk.form.listacall_banda.selection, 1) << "the log waits again";
-  desk.Started("IK2QAA");
-  EXPECT_EQ(desk.ErrorListOf("IK2QAA"), head);
-  EXPECT_EQ(desk.form.Lista_dubbi.items.rows().size(), 1U);
-}
-
 TEST(CheckLeaving, AfterExitNoCheckRunsAndEachStartIsAskedAbout) {
   DeskFixture desk;
   ThreeLogs(desk).Loaded();
@@ -161,22 +135,6 @@ TEST(CheckLeaving, AfterExitNoCheckRunsAndEachStartIsAskedAbout) {
   desk.form.listacall_banda.DoubleClick();
   desk.form.torna_menu.Click();
   EXPECT_TRUE(desk.main.visible());
-}
-
-TEST(CheckLeaving, SkippingLeadsToTheResult) {
-  DeskFixture desk;
-  ThreeLogs(desk).Loaded().Started("IV3QYY");
-  desk.manager.boxes.clear();
-  desk.form.Call_unici.Fill({"IV3QYY      I1QXX"});
-  desk.form.aggiorna_punt_class.visible = false;
-  desk.form.nasondi.Click();
-  EXPECT_EQ(desk.manager.boxes,
-            std::vector{Told(Join(" Hai saltato il controllo dei call unici/errati|",
-                                  " per proseguire clicca sul pulsante VERDE"))});
-  EXPECT_TRUE(desk.form.Call_unici.items.rows().empty());
-  EXPECT_TRUE(desk.form.aggiorna_punt_class.Reachable());
-  EXPECT_EQ(desk.form.aggiorna_punt_class.colour, colour::kGreen);
-  EXPECT_FALSE(desk.form.ordina.enabled);
 }
 
 TEST(CheckLeaving, TheWideViewStandsInPlaceOfTheDesk) {
@@ -264,15 +222,6 @@ TEST(CheckLeaving, ALogInsertedSinceTheLoadMakesReloadingDue) {
   desk.manager.replies = {Reply::kNo};
   desk.form.listacall_banda.DoubleClick();
   EXPECT_EQ(desk.TakeBoxes().back().lines[0], " Inizio il controllo ?");
-}
-
-TEST(CheckLeaving, AClassificationThatWasNeverLoadedNeedsNoReloading) {
-  OpenDesk desk;
-  desk.form.exit.Click();
-  desk.session.log_inserted_since_load = true;
-  desk.desk.Open();
-  EXPECT_TRUE(desk.manager.boxes.empty());
-  EXPECT_FALSE(desk.session.reload_needed);
 }
 
 TEST(CheckLeaving, AClassificationOfTooManyRowsIsAFailureAndNoneIsInUse) {

@@ -43,16 +43,6 @@ TEST(CheckSession, TheMainScreenGoesWhenTheDeskIsReady) {
   EXPECT_EQ(seen, (Names{"VLM2M_01_input hidden after 1", "VLM2M_02_Controlli shown after 1"}));
 }
 
-TEST(CheckSession, EachOpeningReadsTheParticipantsAnew) {
-  OpenDesk desk;
-  desk.session.participants.Add("stale");
-  desk.form.exit.Click();
-  desk.workspace.With(OpenDesk::kParticipants, "IK2QAA      JN45AA 2IT 144M\r\n");
-  desk.desk.Open();
-  ASSERT_EQ(desk.session.participants.size(), 1U);
-  EXPECT_EQ(desk.session.participants[1], "IK2QAA      JN45AA 2IT 144M");
-}
-
 TEST(CheckSession, RedIsACategoryThatIsNotCompletelyChecked) {
   const auto red = [](const std::string& text) {
     const OpenDesk desk(text);
@@ -222,19 +212,6 @@ TEST(CheckSession, TheFirstThatWaitsIsStartedWithoutAQuestion) {
   desk.manager.replies = {Reply::kCancel};
   desk.form.listacall_banda.DoubleClick();
   EXPECT_EQ(desk.form.call_in_esame.caption, "IV3QYY") << "asked about again";
-}
-
-TEST(CheckSession, NextIsNotAskedAboutOnce) {
-  DeskFixture desk;
-  MarkChecked(ThreeLogs(desk), {"IK2QAA"}).Loaded();
-  desk.form.listacall_banda.selection = 0;
-  desk.form.prossimo.Click();
-  EXPECT_TRUE(desk.manager.boxes.empty());
-  EXPECT_EQ(desk.form.listacall_banda.selection, 2);
-  EXPECT_EQ(desk.form.call_in_esame.caption, "IZ9QBC");
-  desk.manager.replies = {Reply::kCancel};
-  desk.form.listacall_banda.DoubleClick();
-  EXPECT_EQ(desk.manager.boxes.size(), 1U);
 }
 
 TEST(CheckSession, FindsARowByPartOfTheCall) {

@@ -67,18 +67,6 @@ struct LoadedDesk : DeskFixture {
   }
 };
 
-TEST(CheckStart, ShowsTheRowAndTheDoubts) {
-  LoadedDesk desk;
-  desk.Started("IK2QAA");
-  EXPECT_EQ(desk.form.Lista_dubbi.items.rows(), Names{"IK2QAA      I1QXX       JN44BC 107  2"});
-  EXPECT_EQ(desk.form.evidenzia.caption,
-            "IK2QAA       JN45AA  250  9 el yagi            100  3    5000    I1QXX      100   "
-            "5000      0    0       5000      0.0%    1");
-  EXPECT_FALSE(desk.form.unici.enabled);
-  desk.form.torna_menu.Click();
-  EXPECT_EQ(desk.manager.boxes.back(), Told(" Devi finire il controllo in atto prima di uscire "));
-}
-
 TEST(CheckStart, NothingHappensWithoutAYes) {
   for (const Reply answer : {Reply::kNo, Reply::kCancel}) {
     LoadedDesk desk;
@@ -99,17 +87,6 @@ TEST(CheckStart, ARowMustBeChosen) {
   desk.form.listacall_banda.selection = -1;
   desk.form.listacall_banda.DoubleClick();
   EXPECT_TRUE(desk.manager.boxes.empty());
-}
-
-TEST(CheckStart, ALogWithoutDoubtsGoesOnToTheUniqueCalls) {
-  LoadedDesk desk;
-  desk.Started("IV3QYY");
-  EXPECT_EQ(desk.manager.boxes, std::vector{kQuestion});
-  EXPECT_EQ(desk.form.N_dubbi.caption, "0");
-  EXPECT_TRUE(desk.form.unici.enabled);
-  EXPECT_EQ(desk.form.unici.colour, colour::kGreen);
-  EXPECT_FALSE(desk.form.aggiorna_punt_class.enabled);
-  EXPECT_FALSE(desk.form.ordina.enabled);
 }
 
 TEST(CheckStart, TheCheckOfAnotherCallBeginsAnew) {
@@ -152,14 +129,6 @@ TEST(CheckStart, AnErrorListOfABrokenCheckIsCutToItsHead) {
     EXPECT_EQ(list_after(six_lines), "left: " + six_lines);
   }
   EXPECT_EQ(list_after(""), "left: ");
-}
-
-TEST(CheckStart, OnlyTheListOfTheCallIsCut) {
-  LoadedDesk desk;
-  const std::string other = desk.ErrorListOf("IZ9QBC") + kDecision;
-  desk.workspace.files().WriteAll(desk.ListPath("IZ9QBC"), other);
-  desk.Started("IK2QAA");
-  EXPECT_EQ(desk.ErrorListOf("IZ9QBC"), other);
 }
 
 TEST(CheckStart, ASlashIsTurnedInTheNameOfTheListAlone) {
@@ -260,36 +229,6 @@ TEST(CheckStart, TheStoreIsPartedIntoScratchFiles) {
   EXPECT_EQ(desk.workspace.Read("2ITLibreria_temp.tmp"),
             "IZ9QBC      I1QXX       JN44BB 100\r\n"
             "IV3QYY      IZ9QBC      JM67AA 100\r\n");
-}
-
-TEST(CheckStart, BadRowsAreToldInTheOrderOfTheLog) {
-  DeskFixture desk;
-  desk.Filed({.call = "IK2QAA",
-              .locator = "JN45AA",
-              .qsos = {{"I1QXX/P", "JN44BB"}, {"I1QYY", "J144BB"}, {"IK2QAA", "JN45AA"}}})
-      .Loaded()
-      .Started("IK2QAA");
-  ASSERT_EQ(desk.manager.boxes.size(), 3U);
-  EXPECT_EQ(desk.manager.boxes[1],
-            Told(" se il call è italiano il '/P' nel trofeo non è ammesso, errore"_a));
-  EXPECT_EQ(desk.manager.boxes[2].lines[0],
-            " il locatore J144BB del QSO n° 2 di I1QYY è SBAGLIATO  controlla numeri e lettere"_a);
-  EXPECT_EQ(desk.form.Lista_dubbi.items.rows(), (Names{"IK2QAA      I1QXX/P     JN44BB 100  1",
-                                                       "IK2QAA      IK2QAA      JN45AA 100  3"}));
-}
-
-TEST(CheckStart, TheArchiveIsLoadedOnceAndTurnsItsOptionOn) {
-  LoadedDesk desk;
-  desk.session.archive_missing = false;
-  desk.form.Check5.Click();
-  ASSERT_FALSE(desk.form.Check5.checked);
-  desk.workspace.With("Varto_book.bin", EncodeCallBook({"I1QXX       JN44BB"}));
-  desk.Started("IV3QYY");
-  EXPECT_TRUE(desk.form.Check5.checked);
-  EXPECT_TRUE(desk.session.settings.On(Setting::kHideUniqueInDatabase));
-  desk.form.Check5.Click();
-  desk.Started("IV3QYY");
-  EXPECT_FALSE(desk.form.Check5.checked) << "the manager's word stands";
 }
 
 TEST(CheckStart, WithoutTheLibraryThereIsNoCheck) {

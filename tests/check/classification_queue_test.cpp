@@ -73,17 +73,6 @@ TEST(ClassificationQueue, FindsTheFirstRowThatWaits) {
       << "a header never waits";
 }
 
-TEST(ClassificationQueue, FindsACallByAnyPartOfIt) {
-  const ClassificationQueue queue =
-      QueueOf(Join(kHeader, "\n", WaitingRow("IK2QAA"), "\n", WaitingRow("IZ9QBC/4"), "\n",
-                   WaitingRow("IZ9QBC"), "\n"));
-  EXPECT_EQ(queue.FindCall("QBC"), 2U);
-  EXPECT_EQ(queue.FindCall("/4"), 2U);
-  EXPECT_EQ(queue.FindCall("IK2QAA"), 1U);
-  EXPECT_EQ(queue.FindCall("JN45"), std::nullopt) << "the locator is no part of the call";
-  EXPECT_EQ(queue.FindCall("IK2QAA "), std::nullopt);
-}
-
 TEST(ClassificationQueue, ShowsRowsWithTheirPositionBehind) {
   const std::string longer = Pad(WaitingRow("IZ9QBC"), 140) + "x";
   ClassificationQueue queue = QueueOf(Join(kHeader, "\nshort\n", longer));

@@ -47,17 +47,6 @@ TEST(ErrorReport, APenaltyGoesIntoTheListTheScoreAndTheRow) {
                    "  3    OK1QAA      003    errore call       OK1QAA      OK1QAB     -100 "}));
 }
 
-TEST(ErrorReport, ADecisionWritesNothingButTheList) {
-  LocatorDesk desk;
-  ThreeDoubts(desk);
-  const std::string name = "Trofeo_Velmar/2IT/2IT-IK2QAA Lista errori GENNAIO 2025.err";
-  auto expected = desk.workspace.Everything();
-  ASSERT_TRUE(expected.contains(name));
-  expected[name] += "  1    DL1QAA      001    NOT IN LOG        JO30AB                 -600 \r\n";
-  desk.Decide(desk.form.not_inlog);
-  EXPECT_EQ(desk.workspace.Everything(), expected);
-}
-
 TEST(ErrorReport, TheScoreMayFallBelowNothing) {
   LocatorDesk desk;
   ThreeDoubts(desk, 50);
@@ -102,18 +91,6 @@ TEST(ErrorReport, ASecondErrorOfTheSameCallIsRefused) {
   EXPECT_EQ(desk.Score(), "1 100 4900");
   desk.form.QSO_ok.Click();
   EXPECT_EQ(desk.Doubts(), Names{});
-}
-
-TEST(ErrorReport, ACallThatWasNotedAsUniqueMayBePenalised) {
-  LocatorDesk desk;
-  desk.OneDoubt().Checked();
-  const std::string unique =
-      "  1    I1QXX       002    call   unico      I1QXX                  -    ";
-  desk.store.AppendToErrorList("IK2QAA", kCategory, "GENNAIO 2025", unique + "\r\n");
-  desk.Decide(desk.form.not_inlog);
-  EXPECT_EQ(
-      desk.Decisions("IK2QAA"),
-      (Names{unique, "  1    I1QXX       002    NOT IN LOG        JN44BB                 -107 "}));
 }
 
 TEST(ErrorReport, EachCheckCountsFromOne) {

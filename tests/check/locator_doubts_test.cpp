@@ -109,13 +109,6 @@ TEST(FindLocatorDoubts, WhatTheStationItselfDeclaresIsNoDoubt) {
   }
 }
 
-TEST(FindLocatorDoubts, EachQsoIsJudgedByItselfInTheOrderOfTheLog) {
-  EXPECT_EQ(DoubtsOf(Rows({"IZ9QBC JM67AA", "I1QXX JN44BC", "I1QXX JN44BB", "DL1QAA JO30AA",
-                           "I1QXX JN44BC"}),
-                     Times(4, "I1QXX JN44BB") + Times(1, "DL1QAA JO30AB")),
-            (Places{1, 3, 4}));
-}
-
 TEST(FindOwnQsos, ComparesTheWholeCall) {
   EXPECT_EQ(
       FindOwnQsos(Views(Rows({"IK2QAA JN45AA", "IK2QAAA JN45AA", "IK2QA JN45AA", "IK2QAA JN45AB"})),

@@ -48,15 +48,5 @@ TEST(GatherEvidence, ListsTheQsosWithTheCallAndMarksThem) {
   EXPECT_TRUE(GatherEvidence(others, "DL1QAA      ", "JN44BC").rows.empty());
 }
 
-TEST(RepeatedLocator, IsTheFirstThatTwoRowsHave) {
-  const std::string one = "IZ9QBC      I1QXX       JN44BB *";
-  const std::string two = "IV3QYY      I1QXX       JN44BC <---";
-  EXPECT_EQ(RepeatedLocator({}), "");
-  EXPECT_EQ(RepeatedLocator({one}), "");
-  EXPECT_EQ(RepeatedLocator({one, two}), "");
-  EXPECT_EQ(RepeatedLocator({one, two, two}), "JN44BC");
-  EXPECT_EQ(RepeatedLocator({one, two, two, one}), "JN44BB");
-}
-
 }  // namespace
 }  // namespace velmar

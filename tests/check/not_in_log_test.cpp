@@ -98,12 +98,6 @@ TEST(NotInLogSearch, TheOtherLogHasTheCallOrNot) {
   EXPECT_EQ(Find("IZ9QBC", {{}}, {{"IZ9QBC", "IK2ABC", "JN45AA", "3IT"}}), OwnError("H", "IK2ABC"));
 }
 
-TEST(NotInLogSearch, TheErrorOfTheOtherStationCanBeHidden) {
-  EXPECT_EQ(Find("IZ9QBC", {{}}, {{"IZ9QBC", "IK2ABD"}}, true), "");
-  EXPECT_EQ(Find("IZ9QBC", {{}}, {{"IZ9QBC", "IK2ACB"}}, true), "");
-  EXPECT_EQ(Find("IZ9QBC", {{}}, {}, true), kLacking);
-}
-
 // Only ten characters are tested, nine of them for a gap.
 TEST(NotInLogSearch, ALongCallIsNeverMadeOfSwappedLetters) {
   const auto fault = [](const std::string& call, const std::string& written) {

@@ -150,20 +150,6 @@ TEST(TimeCheck, BehindTheLastDecisionTheTimeOnTheAirIsRecorded) {
   EXPECT_TRUE(desk.manager.boxes.empty());
 }
 
-TEST(TimeCheck, WithMessagesTheTimeOnTheAirIsTold) {
-  TimesDesk desk;
-  desk.session.settings.Set(Setting::kMessagesOn, "SI");
-  desk.Checked();
-  desk.manager.boxes.clear();
-  desk.form.Lista_err_orario.Select(0);
-  desk.form.convalida_qso_time.Click();
-  desk.form.conf_err_time.Click();
-  EXPECT_EQ(
-      desk.manager.boxes,
-      std::vector{Told(
-          " il tempo intercorso fra il primo qso e| l'ultimo qso del contest è stato di: | |     1 ore  e  25  minuti| |      call = IK2QAA|      primo  qso ore :10:05|      ultimo qso ore :11:30"_a)});
-}
-
 TEST(TimeCheck, ALogThatAgreesGoesOnAtOnce) {
   TimesDesk desk;
   desk.Checked("I1QXX");

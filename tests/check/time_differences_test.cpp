@@ -67,13 +67,6 @@ TEST(TimeDifferences, WithoutANumberItIsTheRowsPlaceInItsLog) {
                                       "000 IK2QAA 1005 1100 IZ9QBC      *55   100", "3"}));
 }
 
-TEST(TimeDifferences, EachRowIsComparedWithEachOfTheOtherLog) {
-  EXPECT_EQ(Differences(Row("IZ9QBC", "1100", "IK2QAA") + Row("IK2QAA", "1005", "IZ9QBC", "90") +
-                        Row("IK2QAA", "1100", "IZ9QBC", "91") + Row("IZ9QBC", "1006", "IK2QAA")),
-            (Names{"001 IK2QAA 1005 1100 IZ9QBC      *55   90",
-                   "002 IK2QAA 1100 1006 IZ9QBC      *54   91", "4"}));
-}
-
 TEST(TimeDifferences, TheOtherLogAloneSpeaks) {
   EXPECT_EQ(Differences(Row("IK2QAA", "1005", "IZ9QBC")), Names{"0"}) << "no other log";
   EXPECT_EQ(Differences(Row("IK2QAA", "1005", "IZ9QBC") + Row("IZ9QBC", "1100", "IK2QAAA") +
@@ -84,12 +77,6 @@ TEST(TimeDifferences, TheOtherLogAloneSpeaks) {
             (Names{"001 IK2QAA 1005 1105 IK2QAA      *60   100",
                    "002 IK2QAA 1105 1005 IK2QAA      *60   100", "4"}))
       << "a station that worked itself twice";
-}
-
-TEST(TimeDifferences, TheRowsOfALogEndAtThoseOfAnother) {
-  EXPECT_EQ(Differences(Row("IK2QAA", "1005", "IZ9QBC") + Row("IZ9QBC", "1100", "IK2QAA") +
-                        Row("IK2QAA", "1010", "IZ9QBC")),
-            (Names{"001 IK2QAA 1005 1100 IZ9QBC      *55   100", "1"}));
 }
 
 TEST(TimeDifferences, RowsTooShortForAnOwnerArePassedOver) {

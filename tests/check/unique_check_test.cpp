@@ -214,24 +214,6 @@ TEST(UniqueCheck, TheOptionsLeaveCallsOut) {
   EXPECT_EQ(open(true, false, true), Names{"IV3QYY 2"});
 }
 
-TEST(UniqueCheck, AnErrorOfTheCallCostsTheQso) {
-  UniqueDesk desk;
-  TwoUnique(desk).Searched();
-  CheckForm& form = desk.form;
-  form.lista_call_unici.Select(1);
-  form.error_call_unici.Click();
-  EXPECT_EQ(desk.Decisions("IK2QAA"),
-            Names{"  1    I1QXX       002    errore call       I1QXX       I1QXY      -1234"});
-  EXPECT_EQ(desk.Score(), "1 1234 3766");
-  EXPECT_EQ(Mid(form.evidenzia.caption, 65, 1), "*");
-  EXPECT_EQ(desk.Open(), Names{"DL1QAA 3"});
-  EXPECT_EQ(form.num_unici.caption, "1");
-  EXPECT_EQ(form.nome_call.caption, "DL1QAA");
-  EXPECT_EQ(form.lista_call_unici.items.rows(), Names{});
-  EXPECT_FALSE(form.aggiorna_punt_class.enabled);
-  EXPECT_EQ(desk.manager.asked, std::vector<InputBox>{});
-}
-
 TEST(UniqueCheck, TheCorrectCallIsTakenFromTheListsOrAskedFor) {
   const InputBox asked{.title = "Error call", .lines = {kAskCall}, .default_text = "I1QXX"};
   const auto line = [](std::string_view right) {
@@ -466,6 +448,7 @@ TEST(UniqueCheck, OpenItemsAreRemindedOf) {
 TEST(UniqueCheck, TheCheckCanBeLeftOut) {
   UniqueDesk desk;
   TwoUnique(desk).Searched();
+  desk.form.aggiorna_punt_class.visible = false;
   desk.form.nasondi.Click();
   EXPECT_EQ(desk.manager.boxes, std::vector{Told(" Hai saltato il controllo dei call unici/errati"
                                                  "| per proseguire clicca sul pulsante VERDE")});
@@ -473,8 +456,9 @@ TEST(UniqueCheck, TheCheckCanBeLeftOut) {
                            &desk.form.lista_call_unici, &desk.form.List2_unici}) {
     EXPECT_EQ(list->items.rows(), Names{}) << list->name;
   }
-  EXPECT_TRUE(desk.form.aggiorna_punt_class.enabled);
+  EXPECT_TRUE(desk.form.aggiorna_punt_class.Reachable());
   EXPECT_EQ(desk.form.aggiorna_punt_class.colour, colour::kGreen);
+  EXPECT_FALSE(desk.form.ordina.enabled);
 }
 
 TEST(UniqueCheck, WithoutAnItemTheNextCheckFollows) {
@@ -488,35 +472,6 @@ TEST(UniqueCheck, WithoutAnItemTheNextCheckFollows) {
     EXPECT_FALSE(desk.form.Frame_unici.visible);
     EXPECT_EQ(desk.form.aggiorna_punt_class.colour, colour::kGreen);
   }
-}
-
-TEST(UniqueCheck, TheLastDecisionAlsoLeadsToTheNextCheck) {
-  UniqueDesk desk;
-  TwoUnique(desk).Searched();
-  desk.form.ok_call_unici.Click();
-  EXPECT_TRUE(desk.form.Frame_unici.visible);
-  desk.form.ok_call_unici.Click();
-  EXPECT_EQ(desk.form.num_unici.caption, "0");
-  EXPECT_FALSE(desk.form.Frame_unici.visible);
-  EXPECT_TRUE(desk.form.aggiorna_punt_class.enabled);
-}
-
-TEST(UniqueCheck, OddCallsGoThroughAllOfIt) {
-  UniqueDesk desk;
-  desk.Examined({{"I1A", "JN44BC"}, {"IK2ABCDEFGHJ", "JN44BC"}, {"9A/IK2QX/P", "JN44BC"}})
-      .Log("IZ9QBC", "JM67AA", {{"I1B", "JN44BC"}})
-      .Searched();
-  ASSERT_EQ(desk.Open(), (Names{"I1A 1", "IK2ABCDEFGHJ 2", "9A/IK2QX/P 3"}));
-  for (const char* right : {"I1B", "IK2ABCDEFGHK", "9A/IK2QY/P"}) {
-    desk.form.cerca_probabile.Click();
-    desk.form.List2_unici.selection = -1;
-    desk.manager.inputs = {right};
-    desk.form.error_call_unici.Click();
-  }
-  EXPECT_EQ(desk.Decisions("IK2QAA"),
-            (Names{"  1    I1A         001    errore call       I1A         I1B        -100 ",
-                   "  2    IK2ABCDEFGHJ002    errore call       IK2ABCDEFGHJIK2ABCDEFGH-100 ",
-                   "  3    9A/IK2QX/P  003    errore call       9A/IK2QX/P  9A/IK2QY/P -100 "}));
 }
 
 TEST(UniqueCheck, AMissingLibraryIsTold) {

@@ -42,19 +42,6 @@ Names Similar(const std::string& call, const std::vector<Heard>& heard) {
   return calls;
 }
 
-TEST(UniqueEvidence, ReadsAnItemOfTheList) {
-  const std::string line = QsoLine(LibreriaRow("IK2QAA", "I1QXX", "JN44BC", "1234").value(), 12);
-  for (const char* remark : {"", "  / forse portatile ? "}) {
-    const UniqueItem item = ReadUniqueItem(line + remark);
-    EXPECT_EQ(item.call, "I1QXX");
-    EXPECT_EQ(item.locator, "JN44BC");
-    EXPECT_EQ(item.points, "1234");
-    EXPECT_EQ(item.ordinal, "12");
-  }
-  const UniqueItem cut = ReadUniqueItem("IK2QAA      I1QXX");
-  EXPECT_EQ(Join(cut.call, "|", cut.locator, "|", cut.points, "|", cut.ordinal), "I1QXX|||");
-}
-
 TEST(UniqueEvidence, ASimilarCallIsTheFirstTestThatFindsAny) {
   const struct {
     std::vector<Heard> heard;
@@ -99,18 +86,6 @@ TEST(UniqueEvidence, TheBookIsAskedWhereAnythingIsSimilar) {
   EXPECT_EQ(FindEndInBook(book, "IK2ABX/P"), Names{});
   EXPECT_EQ(FindEndInBook(book, "IK2BC/P"), Names{book[1] + " <-- Book"});
   EXPECT_EQ(FindEndInBook(book, "9A/IK2ABX"), Names{book[2] + " <-- Book"});
-}
-
-TEST(UniqueEvidence, OthersInTheLocatorAreShownAndGrouped) {
-  const Names library = Library({{"IV3QYY"}, {"I1QXX"}, {"DL1QAA", "JO30AA"}, {"I1QXX"}});
-  const Names rows = FindInLocator(Views(library), "JN44BC");
-  EXPECT_EQ(rows, (Names{"JN44BC    IV3QYY      IZ9QBC     *", "JN44BC    I1QXX       IZ9QBC     *",
-                         "JN44BC    I1QXX       IZ9QBC     *"}));
-  EXPECT_EQ(EachCallOnce(rows), (Names{rows[1], rows[0]}));
-  EXPECT_EQ(
-      EachCallOnce({"JN44BC    I1QXX       IZ9QBC     *", "JN44BC    I1QXX       IV3QYY     *"}),
-      Names{"JN44BC    I1QXX       IZ9QBC     *"});
-  EXPECT_EQ(FindInLocator(Views(library), "JN44BB"), Names{});
 }
 
 TEST(UniqueEvidence, TheBaseCallIsTheLongerSideOfASlash) {
