@@ -45,6 +45,12 @@ void ExpectRefused(const Refused& c) {
   EXPECT_EQ(desk.Store("libreria.qso"), "<missing>");
 }
 
+/// The same of a log under the usual name, of which one box speaks.
+void ExpectTold(const InsertableLog& log, std::string_view text, const std::string& suffix,
+                const std::string& front = "") {
+  ExpectRefused({.log = log, .boxes = {Told(text)}, .suffix = suffix, .front = front});
+}
+
 const Box kBadHeader{
     .lines = {" lettura  interrotta, controlla il file EDI esterno a questo programma",
               " il file è stato spostato nella dir 'Log da ricontrollare'"_a},
@@ -86,13 +92,11 @@ TEST(LogRefusalTest, ADateOrNoQsosAreToldAheadOfTheHeader) {
   ExpectRefused({.log = InsertableLog().Qsos({"", ContestQso("DL1AA", "JO30AA")}),
                  .boxes = {date_box(" riga vuota ")},
                  .suffix = " -_- bad_data_qso.edi"});
-  ExpectRefused(
-      {.log = InsertableLog(bad_header).Start("[QSORecords;0]"),
-       .boxes = {Told(
-           " Attenzione  | In questo log è stato dichiarato che i qso sono ZERO |"
-           " controlla la riga  [QSORecords;0] del log|"
-           " NON è possibile inserire un log con ZERO qso.|  | propritario = 2IT_IK2QAA.edi"_a)},
-       .suffix = " -_- qso a zero.edi"});
+  ExpectTold(InsertableLog(bad_header).Start("[QSORecords;0]"),
+             " Attenzione  | In questo log è stato dichiarato che i qso sono ZERO |"
+             " controlla la riga  [QSORecords;0] del log|"
+             " NON è possibile inserire un log con ZERO qso.|  | propritario = 2IT_IK2QAA.edi"_a,
+             " -_- qso a zero.edi");
 }
 
 TEST(LogRefusalTest, TheHeader) {
@@ -131,64 +135,54 @@ TEST(LogRefusalTest, TheHeader) {
 }
 
 TEST(LogRefusalTest, DeclaredValues) {
-  ExpectRefused(
-      {.log = InsertableLog().Row(4, "PCall=IKQAA/2"),
-       .boxes = {Told(" ATTENZIONE il call non ha il numero.|"
-                      " Esci dal programma e correggi il log manualmente.| Inserimento annullato,|"
-                      " File spostato in ...\\Log da ricontrollare")},
-       .suffix = " -_- call no numero.edi"});
-  ExpectRefused(
-      {.log = InsertableLog().Row(28, "CQSOs=0;3"),
-       .boxes = {Told(" sono stati dichiarati ZERO qso |"
-                      " se non ci sono qso, il log non può essere inserito. Controlla"_a)},
-       .suffix = " -_- manca numero qso.edi"});
-  ExpectRefused(
-      {.log = InsertableLog().Row(29, "CQSOP=1.633"),
-       .boxes = {Told(
-           " ATTENZIONE |"
-           " alla riga 29 (CQSOP=) deve comparire SOLO il numero del punteggio effettuato|"
-           " Questo dato NON è optional o modificabile, è calcolato dal programma utilizzato |"
-           " per generare il file edi e non deve essere modificato.|"
-           " Questo log non può essere inserito.| |"
-           " In questa riga deve esserci SOLO un numero e nessun altro simbolo o lettera |"
-           " esempio dati  corretti : CQSOP=43220| invece è stato trovato : CQSOP=1.633"_a)},
-       .suffix = " -_- manca punteggio.edi"});
-  ExpectRefused(
-      {.log = InsertableLog().Row(29, "CQSOP="),
-       .boxes = {Told(
-           " ATTENZIONE | alla riga 29 (CQSOP=) manca il numero del punteggio dichiarato.|"
-           " Questo dato NON è optional, è calcolato dal programma utilizzato |"
-           " per generare il file edi e non deve essere mancante|"
-           " Questo log non può essere inserito.| |"
-           " Inserisci in quella riga il valore che c'è alla riga 'CQSOP=' |"
-           " sulla stessa intestazione del log"_a)},
-       .suffix = " -_- manca punteggio.edi"});
-  ExpectRefused(
-      {.log = InsertableLog().Row(36, "CToSc="),
-       .boxes = {Told(
-           " ATTENZIONE | alla riga 36 (CToSc=) manca il valore del punteggio totale ottenuto.|"
-           " Questo dato NON è optional, è calcolato dal programma utilizzato |"
-           " per generare il file edi e non deve essere mancante o manomesso.|"
-           " Questo log non può essere inserito.| |"
-           " Inserisci in quella riga il valore del totale dei punti di tutti i qso|"
-           " File spostato in ......\\Log da ricontrollare"_a)},
-       .suffix = " -_- no totale punti.edi"});
-  ExpectRefused({.log = InsertableLog().Row(37, "CODXC=IZ9QBC;JM67AA"),
-                 .boxes = {Told(" ATTENZIONE nel log alla riga CODXC i dati non sono corretti|"
-                                " nella riga relativa la qso DX. CODXC=        |"
-                                " I dati possono essere omessi ma i 2 ;; devono esserci. |"
-                                " Correggi il log manualmente. Inserimento annullato| |"
-                                " File è stato spostato in ...\\Log da ricontrollare"_a)},
-                 .suffix = " -_- noDX no PuntiV.edi",
-                 .front = "2IT "});
+  ExpectTold(InsertableLog().Row(4, "PCall=IKQAA/2"),
+             " ATTENZIONE il call non ha il numero.|"
+             " Esci dal programma e correggi il log manualmente.| Inserimento annullato,|"
+             " File spostato in ...\\Log da ricontrollare",
+             " -_- call no numero.edi");
+  ExpectTold(InsertableLog().Row(28, "CQSOs=0;3"),
+             " sono stati dichiarati ZERO qso |"
+             " se non ci sono qso, il log non può essere inserito. Controlla"_a,
+             " -_- manca numero qso.edi");
+  ExpectTold(InsertableLog().Row(29, "CQSOP=1.633"),
+             " ATTENZIONE |"
+             " alla riga 29 (CQSOP=) deve comparire SOLO il numero del punteggio effettuato|"
+             " Questo dato NON è optional o modificabile, è calcolato dal programma utilizzato |"
+             " per generare il file edi e non deve essere modificato.|"
+             " Questo log non può essere inserito.| |"
+             " In questa riga deve esserci SOLO un numero e nessun altro simbolo o lettera |"
+             " esempio dati  corretti : CQSOP=43220| invece è stato trovato : CQSOP=1.633"_a,
+             " -_- manca punteggio.edi");
+  ExpectTold(InsertableLog().Row(29, "CQSOP="),
+             " ATTENZIONE | alla riga 29 (CQSOP=) manca il numero del punteggio dichiarato.|"
+             " Questo dato NON è optional, è calcolato dal programma utilizzato |"
+             " per generare il file edi e non deve essere mancante|"
+             " Questo log non può essere inserito.| |"
+             " Inserisci in quella riga il valore che c'è alla riga 'CQSOP=' |"
+             " sulla stessa intestazione del log"_a,
+             " -_- manca punteggio.edi");
+  ExpectTold(InsertableLog().Row(36, "CToSc="),
+             " ATTENZIONE | alla riga 36 (CToSc=) manca il valore del punteggio totale ottenuto.|"
+             " Questo dato NON è optional, è calcolato dal programma utilizzato |"
+             " per generare il file edi e non deve essere mancante o manomesso.|"
+             " Questo log non può essere inserito.| |"
+             " Inserisci in quella riga il valore del totale dei punti di tutti i qso|"
+             " File spostato in ......\\Log da ricontrollare"_a,
+             " -_- no totale punti.edi");
+  ExpectTold(InsertableLog().Row(37, "CODXC=IZ9QBC;JM67AA"),
+             " ATTENZIONE nel log alla riga CODXC i dati non sono corretti|"
+             " nella riga relativa la qso DX. CODXC=        |"
+             " I dati possono essere omessi ma i 2 ;; devono esserci. |"
+             " Correggi il log manualmente. Inserimento annullato| |"
+             " File è stato spostato in ...\\Log da ricontrollare"_a,
+             " -_- noDX no PuntiV.edi", "2IT ");
 }
 
 TEST(LogRefusalTest, AnUnusableRowIsToldAheadOfTheRowsBehindIt) {
-  ExpectRefused(
-      {.log = InsertableLog().Row(30, "CWWLs=1;2;3;4").Row(28, "CQSOs=x"),
-       .boxes = {Told(" sono stati dichiarati ZERO qso |"
-                      " se non ci sono qso, il log non può essere inserito. Controlla"_a)},
-       .suffix = " -_- manca numero qso.edi"});
+  ExpectTold(InsertableLog().Row(30, "CWWLs=1;2;3;4").Row(28, "CQSOs=x"),
+             " sono stati dichiarati ZERO qso |"
+             " se non ci sono qso, il log non può essere inserito. Controlla"_a,
+             " -_- manca numero qso.edi");
   InsertionDesk desk;
   desk.Waiting("2IT_IK2QAA.edi", InsertableLog().Row(30, "CWWLs=1;2;3;4").Row(36, "CToSc=").Text());
   desk.Read();
@@ -222,54 +216,46 @@ TEST(LogRefusalTest, TheDeclaredCounts) {
 TEST(LogRefusalTest, TheLastChecks) {
   for (const char* end :
        {"[END; a writer]", "", "[END;recalculated for VLM]", "[END; recalculated for VLM]\r\n"}) {
-    ExpectRefused(
-        {.log = InsertableLog().End(end),
-         .boxes = {Told("Il file caricato non è stato processato con il ricalcolo del qrb.|"
-                        "Questo log non può essere inserito."_a)},
-         .suffix = " -_- no ricalcolo.edi"});
+    ExpectTold(InsertableLog().End(end),
+               "Il file caricato non è stato processato con il ricalcolo del qrb.|"
+               "Questo log non può essere inserito."_a,
+               " -_- no ricalcolo.edi");
   }
-  ExpectRefused({.log = InsertableLog().Qsos({}).Start("[QSORecords;3]").Row(28, "CQSOs=3;1"),
-                 .boxes = {Told("problemi con il file edi (non ci sono qso), controlla !!!")},
-                 .suffix = " -_- log_errato.edi",
-                 .front = "2IT "});
-  ExpectRefused(
-      {.log = InsertableLog().Row(9, "PSect=UNICA"),
-       .boxes = {Told(
-           " La categoria DICHIARATA nel file è diversa da quella indicata nel NOME del file|"
-           " Categoria dichiarata =  [ UNICA ] categoria nel nome file = [2I]|"
-           " inserimento del file annullato.  Esci e correggi.|  |"
-           " Il file sarà spostato nella directory 'Log da ricontrollare'"_a)},
-       .suffix = "-_-nome e cat diverse.edi"});
+  ExpectTold(InsertableLog().Qsos({}).Start("[QSORecords;3]").Row(28, "CQSOs=3;1"),
+             "problemi con il file edi (non ci sono qso), controlla !!!", " -_- log_errato.edi",
+             "2IT ");
+  ExpectTold(InsertableLog().Row(9, "PSect=UNICA"),
+             " La categoria DICHIARATA nel file è diversa da quella indicata nel NOME del file|"
+             " Categoria dichiarata =  [ UNICA ] categoria nel nome file = [2I]|"
+             " inserimento del file annullato.  Esci e correggi.|  |"
+             " Il file sarà spostato nella directory 'Log da ricontrollare'"_a,
+             "-_-nome e cat diverse.edi");
 }
 
 TEST(LogRefusalTest, CountsThatDoNotAgree) {
   const std::string suffix = " -_- correggi qso.edi";
-  ExpectRefused(
-      {.log = InsertableLog().Row(28, "CQSOs=2;1"),
-       .boxes = {Told(
-           "                  A T T E N Z I O N E      nel log di 2IT_IK2QAA.edi|"
-           " I qso da inserire NON corrispondono al numero di qso dichiarati a log.|"
-           " i qso dichiarati validi sono : 2 , i qso totali nel log sono : 3| |"
-           " Nella riga 'CQSOs=' ci deve essere il numero di qso VALIDI che ci sono nel log.|"
-           " (per validi si intende i qso totali meno i qso ERROR e doppi).|  |"
-           " in pratica la riga :|"
-           " CQSOs=2;1 e la riga [QSORecords;3] devono contene lo stesso numero |"
-           " se non ci sono qso doppi o error.|   |"
-           " Il programma ha rilevato 0 qso error e  0 qso doppi|  |"
-           " Nella riga 'CQSOs=2 deve esserci il numero di qso validi a log che sono  3| |"
-           " I qso totali sono: 3| La riga [QSORecords;3]  deve contenere 3| |"
-           " il log non può essere inserito. Correggi"_a)},
-       .suffix = suffix});
+  ExpectTold(InsertableLog().Row(28, "CQSOs=2;1"),
+             "                  A T T E N Z I O N E      nel log di 2IT_IK2QAA.edi|"
+             " I qso da inserire NON corrispondono al numero di qso dichiarati a log.|"
+             " i qso dichiarati validi sono : 2 , i qso totali nel log sono : 3| |"
+             " Nella riga 'CQSOs=' ci deve essere il numero di qso VALIDI che ci sono nel log.|"
+             " (per validi si intende i qso totali meno i qso ERROR e doppi).|  |"
+             " in pratica la riga :|"
+             " CQSOs=2;1 e la riga [QSORecords;3] devono contene lo stesso numero |"
+             " se non ci sono qso doppi o error.|   |"
+             " Il programma ha rilevato 0 qso error e  0 qso doppi|  |"
+             " Nella riga 'CQSOs=2 deve esserci il numero di qso validi a log che sono  3| |"
+             " I qso totali sono: 3| La riga [QSORecords;3]  deve contenere 3| |"
+             " il log non può essere inserito. Correggi"_a,
+             suffix);
   const std::string twice = ContestQso("DL1AA", "JO30AA");
-  ExpectRefused(
-      {.log = InsertableLog().Qsos({twice, ContestQso("ERROR", ""), twice}),
-       .boxes = {Told(
-           " A T T E N Z I O N E  i qso da inserire NON corrispondono ai qso dichiarati.|"
-           " i qso dichiarati validi sono: 3  i qso totali nel log sono : 3|"
-           " ma nel log c'è/ci sono 1 qso doppi o qso errore |                              |"
-           " Correggi il Log di IK2QAA| Alla riga CQSOs=3;1|      sostituisci 3   con   2|"
-           " Il log non può essere inserito."_a)},
-       .suffix = suffix});
+  ExpectTold(InsertableLog().Qsos({twice, ContestQso("ERROR", ""), twice}),
+             " A T T E N Z I O N E  i qso da inserire NON corrispondono ai qso dichiarati.|"
+             " i qso dichiarati validi sono: 3  i qso totali nel log sono : 3|"
+             " ma nel log c'è/ci sono 1 qso doppi o qso errore |                              |"
+             " Correggi il Log di IK2QAA| Alla riga CQSOs=3;1|      sostituisci 3   con   2|"
+             " Il log non può essere inserito."_a,
+             suffix);
 }
 
 TEST(LogRefusalTest, RowsThatThePassRefuses) {
@@ -303,12 +289,11 @@ TEST(LogRefusalTest, RowsThatThePassRefuses) {
                    .boxes = {box},
                    .suffix = c.suffix});
   }
-  ExpectRefused(
-      {.log = InsertableLog().Row(28, "CQSOs=2;1").Start("[QSORecords;2]"),
-       .boxes = {Told(" Il numero di qso dichiarato NON coincide con i qso nel log.  CONTROLLA |"
-                      " qso dichiarati= 2   qso letti =3| Inserimento log annullato.|"
-                      " Il log è stato spostato in ...\\Log da ricontrollare"_a)},
-       .suffix = " -_- n qso errati.edi"});
+  ExpectTold(InsertableLog().Row(28, "CQSOs=2;1").Start("[QSORecords;2]"),
+             " Il numero di qso dichiarato NON coincide con i qso nel log.  CONTROLLA |"
+             " qso dichiarati= 2   qso letti =3| Inserimento log annullato.|"
+             " Il log è stato spostato in ...\\Log da ricontrollare"_a,
+             " -_- n qso errati.edi");
   const std::string no_mode = ContestQso("DL1AA", "JO30AA", "1005", "");
   ExpectRefused({.log = InsertableLog().Qsos({ContestQso("DL2AA", "JO30AA"), no_mode}),
                  .boxes = {{.lines = {"il qso n°2 è privo del modo di emissione."_a, no_mode,

@@ -86,14 +86,6 @@ TEST(LogTurboTest, EscEndsTheRunBehindTheLogThatIsChosen) {
   EXPECT_EQ(Filed(desk), (Names{"2IT_IK2QAA.edi", "2IT_IK2QAB.edi"}));
 }
 
-TEST(LogTurboTest, ALogOfANonContestNameStaysAndStops) {
-  InsertionDesk desk;
-  desk.Turbo().Waiting("2IT_A1 -_- x.edi", "x").Waiting("2IT_IK2QAA.edi", kA);
-  desk.Read();
-  EXPECT_EQ(desk.manager.boxes.size(), 1U);
-  EXPECT_EQ(desk.Inbox().size(), 2U);
-}
-
 TEST(LogTurboTest, AnotherFolderIsReadToItsEnd) {
   InsertionDesk desk;
   desk.Turbo().Waiting("2IT_IK2QAC.edi", kC).workspace.With("altri/2IT_IK2QAA.edi", "x");
