@@ -15,7 +15,7 @@ constexpr double kFieldDegrees = 20;  // of longitude; of latitude it is half of
 constexpr double kWestOfI = -20;
 constexpr double kSouthOfF = -40;
 constexpr int kSquaresOfField = 10;
-constexpr double kLineStep = 21;
+constexpr int kLineStep = 21;
 
 /// The edges of the closer maps are borders of squares, and their squares are whole steps of the
 /// lines, so that the lines run along all borders; the squares come near their true shape. On the
@@ -140,11 +140,11 @@ void AddGrid(Picture& picture, const MapView& view) {
   constexpr double kWide = 1.2;
   const double cells = view.kind == MapKind::kFieldLevel ? kSquaresOfField : 1;
   const Point origin = ToMap(view, {0, 0});
-  for (double x = 0; x <= kMapWidth; x += kLineStep) {
+  for (int x = 0; x <= kMapWidth; x += kLineStep) {
     const bool border = OnStep(x - origin.x, view.square_width * cells);
     AddUpright(picture, x, colour::kGreen, border ? kWide : kThin);
   }
-  for (double y = 0; y <= kMapHeight; y += kLineStep) {
+  for (int y = 0; y <= kMapHeight; y += kLineStep) {
     const bool border = OnStep(y - origin.y, view.square_height * cells);
     AddLevel(picture, y, colour::kGreen, border ? kWide : kThin);
   }
