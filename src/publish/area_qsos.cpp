@@ -37,6 +37,7 @@ void CountCountries(std::string_view call, CountryCounters& counts) {
 
 void AreaQsos::banda_qso_Change() {
   form_.trova.enabled = true;
+  form_.qso_est.enabled = true;  // its last run was for another choice
 }
 
 void AreaQsos::trova_Click() {

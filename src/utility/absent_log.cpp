@@ -20,7 +20,7 @@ constexpr std::size_t kBestPlaces = 3;
 
 std::string Line(const SommaQso& qso) {
   return Join("001", " ", " 144 ita  ", Right(qso.row, kCallWidth), Pad(qso.call, kCallWidth),
-              Pad(qso.locator, kLocatorWidth), "     ", qso.points);
+              Pad(qso.locator, kLocatorWidth), "     ", Trim(qso.points));
 }
 
 }  // namespace

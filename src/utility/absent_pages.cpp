@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kListRule = 37;
 constexpr std::size_t kLogRule = 65;
-constexpr std::size_t kListColumn = absent_line::kCall.end() - 1;
+constexpr std::size_t kListColumn = absent_line::kCall.end();  // and a blank behind it
 constexpr int kRowPoints = 10;
 constexpr int kHeadingPoints = 12;
 

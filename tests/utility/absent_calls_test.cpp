@@ -90,7 +90,7 @@ TEST(AbsentPages, TheSecondHalfOfTheListStandsBesideTheFirst) {
     EXPECT_EQ(job.at(0).points, 10);
     return Rows(job.at(0).lines.begin() + 2, job.at(0).lines.end());
   };
-  const std::string gap(18, ' ');
+  const std::string gap(19, ' ');
   EXPECT_EQ(lines_of({"a", "b", "c", "d"}), (Rows{"a" + gap + "d", "b", "c"}));
   EXPECT_EQ(lines_of({"a", "b", "c"}), (Rows{"a" + gap + "c", "b"}));
   EXPECT_EQ(lines_of({"a"}), Rows{"a"});

@@ -189,7 +189,7 @@ TEST(AbsentStations, RebuildsAndPrintsTheLogOfACall) {
        .points = 10}};
   const PrintJob list_pages = {
       {.lines = {"Lista dei call assenti GENNAIO 2025", std::string(37, '-'),
-                 "  3    I5QYY/P       1    IV3QZZ      ", "  2    I5QYY       "},
+                 "  3    I5QYY/P        1    IV3QZZ      ", "  2    I5QYY       "},
        .points = 10}};
   EXPECT_EQ(desk.printer.printed, (std::vector{log_pages, list_pages}));
   const std::string file = "I5QYY_P  log assente GENNAIO 2025.prn";
