@@ -23,8 +23,11 @@ enum class ErrorNumber : int {
   kPermissionDenied = 70,   ///< the file is locked by somebody else
   kPathFileAccess = 75,     ///< the path may not be read or written, or is of the other kind
   kPathNotFound = 76,       ///< a folder on the path does not exist
+  kObjectNotSet = 91,       ///< an object of the workbook application that is not there
   kNoApplication = 429,     ///< an application to be driven is not installed
+  kServerGone = 462,        ///< the workbook application was closed during its work
   kWorkbookRefused = 1004,  ///< the workbook application refused an operation
+  kLibraryMissing = -2147319779,  ///< a library of the workbook application is not registered
 };
 
 /// A step failed. Caught in one place of each procedure, which sorts by number.

@@ -6,6 +6,7 @@
 #include "platform/manager.h"
 #include "platform/printer.h"
 #include "platform/web.h"
+#include "platform/workbook_app.h"
 
 namespace velmar {
 
@@ -18,6 +19,7 @@ struct Ports {
   Web& web;
   Printer& printer;
   PictureFiles& pictures;
+  WorkbookApp& workbooks;
 };
 
 }  // namespace velmar

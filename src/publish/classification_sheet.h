@@ -10,7 +10,7 @@ namespace velmar {
 
 /// What the sheets of one workbook share.
 struct SheetTexts {
-  std::string month_title;   ///< as "Gennaio 25": see MonthTitle
+  std::string month_title;   ///< such as "Gennaio ", with the blank behind it
   std::string year;          ///< of the contest, four digits
   std::string contest_date;  ///< "2025.01.19"
   std::string version;       ///< of the program, with dots
