@@ -132,6 +132,8 @@ void MainMenu::CLA_mese_excel_Click() {
                              " Necessaria minimo ver. 14 o sucessive.(da excel 2010 in poi)",
                              " Procedura negata "},
                    .icon = Icon::kStop});
+  } else {
+    steps_.open_export();
   }
 }
 

@@ -21,6 +21,7 @@ struct MenuSteps {
   std::function<void()> open_info{};
   std::function<void()> classify_areas{};
   std::function<void()> open_statistics{};
+  std::function<void()> open_export{};
 };
 
 /// The menu and the small controls of the main screen.

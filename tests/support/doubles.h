@@ -15,6 +15,7 @@
 #include "platform/manager.h"
 #include "platform/printer.h"
 #include "platform/web.h"
+#include "platform/workbook_app.h"
 
 namespace velmar::test {
 
@@ -164,6 +165,29 @@ class RecordingPictures : public PictureFiles {
   }
 
   std::vector<std::pair<std::string, Picture>> saved;
+};
+
+/// Keeps copies of the workbooks that were saved, and leaves a file in the place of each.
+class RecordingWorkbooks : public WorkbookApp {
+ public:
+  explicit RecordingWorkbooks(FileSystem& files) : files_(files) {}
+
+  int Version() override { return version; }
+  void SaveAs(const Workbook& book, const std::string& path) override {
+    if (fails_with && path.ends_with(failing_name)) {
+      throw RunTimeError(*fails_with);
+    }
+    saved.emplace_back(path, book);
+    files_.WriteAll(path, "a workbook of " + std::to_string(book.Count()));
+  }
+
+  int version = 16;
+  std::optional<ErrorNumber> fails_with;
+  std::string failing_name;  ///< only of such files; empty for all
+  std::vector<std::pair<std::string, Workbook>> saved;
+
+ private:
+  FileSystem& files_;
 };
 
 /// A file system that breaks at a chosen call. It passes all others on.
