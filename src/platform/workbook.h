@@ -16,13 +16,15 @@ namespace velmar {
 /// A workbook in memory, with the operations of a workbook application under their usual names.
 /// Rows and columns count from 1. Colours are numbers with red in the lowest byte; sizes of letters
 /// and heights of rows are points, widths of columns are characters. Texts are in code page 1252.
-/// Nothing here knows of files: see workbook_app.h.
+/// Nothing here knows of files: see workbook_app.h. What leads out of a sheet raises error 1004.
 
 class SheetRange;
 class Worksheet;
 
 /// The numbers that the operations know.
 namespace xl {
+inline constexpr int kRows = 1'048'576;  ///< of a sheet
+inline constexpr int kColumns = 16'384;
 inline constexpr int kNone = -4142;
 inline constexpr int kAutomatic = -4105;
 inline constexpr int kCenter = -4108;
@@ -165,7 +167,8 @@ class SheetRange {
   const CellBlock& block() const { return block_; }
   int Row() const { return block_.first.row; }
 
-  /// Puts a value into every cell; into the first one of merged cells.
+  /// Puts a value into every cell; of merged cells into the first one, the others keep none. An
+  /// empty text leaves the cells without a value. Whole columns and rows raise error 1004.
   SheetRange& Value(std::string_view text);
   SheetRange& Value(double number);
 
@@ -181,23 +184,25 @@ class SheetRange {
   SheetRange& VerticalAlignment(int alignment);
   SheetRange& WrapText(bool wrap);
   SheetRange& NumberFormat(std::string_view format);
-  SheetRange& ColumnWidth(double characters);
-  SheetRange& RowHeight(double points);
+  SheetRange& ColumnWidth(double characters);  ///< up to 255, else error 1004; 0 hides
+  SheetRange& RowHeight(double points);        ///< up to 409, else error 1004; 0 hides
 
   /// Joins the cells to one, which keeps the first value. A block that overlaps another merged one
   /// takes its place.
   SheetRange& Merge();
 
   /// Inserts as many empty rows as it has, and moves what lay there downwards: cells, merged
-  /// blocks, heights, page breaks, pictures and charts behind. The new rows have the format of the
-  /// row above them.
+  /// blocks, heights, page breaks, pictures and charts behind. The new rows have the format and the
+  /// height of the row above them.
   SheetRange& Insert();
 
   /// Copies whole rows with values, formats, pieces, merged blocks and heights to the rows that
-  /// begin with the target's first, on the same sheet or another one. Page breaks stay.
+  /// begin with the target's first, on the same sheet or another one, also over one another. What
+  /// lay in the target's rows goes; its page breaks, pictures and charts stay.
   void Copy(SheetRange target) const;
 
-  /// The letters of a part of the first cell's text, `start` counted from 1.
+  /// The letters of a part of the first cell's text, `start` counted from 1. What goes beyond the
+  /// text is left out; another value of the cell takes them away.
   void Characters(std::size_t start, std::size_t length, const CellFont& font);
 
  private:
@@ -205,6 +210,14 @@ class SheetRange {
   /// Changes the format of every cell.
   template <typename Change>
   SheetRange& Format(const Change& change);
+  SheetRange& Put(const CellValue& value);
+  /// A part of the range; whole columns or rows stay so where it is more than one row or column.
+  SheetRange Part(CellBlock block) const;
+  /// Lines on one side of the cells of a part.
+  void Line(CellBlock block, int CellBorders::*side, int weight) const;
+  /// Lines at an edge; those that the cells beyond it have there become the same.
+  void Edge(CellBlock block, int CellBorders::*side, CellBlock beyond, int CellBorders::*opposite,
+            int weight) const;
 
   Worksheet& sheet_;
   CellBlock block_;
@@ -226,10 +239,16 @@ class Worksheet {
   /// The last row with a value in a column, as a walk upwards from the end finds it; 1 without one.
   int LastRow(int column) const;
 
-  void AddPageBreak(int above_row);  ///< a new page begins with that row
+  /// A new page begins with that row; the first one raises error 1004.
+  void AddPageBreak(int above_row);
+
+  /// The format of a cell, or the one that its row or column has for it.
+  const CellFormat& FormatAt(CellPlace place) const;
 
   // For the writer, and for tests.
   const std::map<CellPlace, Cell>& cells() const { return cells_; }
+  const std::map<int, CellFormat>& column_formats() const { return column_formats_; }
+  const std::map<int, CellFormat>& row_formats() const { return row_formats_; }
   const std::map<int, double>& column_widths() const { return column_widths_; }
   const std::map<int, double>& row_heights() const { return row_heights_; }
   const std::vector<CellBlock>& merged() const { return merged_; }
@@ -245,9 +264,23 @@ class Worksheet {
   friend class SheetRange;
   friend class Workbook;
 
+  /// The format of a cell that was not made yet.
+  const CellFormat& Inherited(CellPlace place) const;
+  /// A cell, made where it is missing.
+  Cell& Made(CellPlace place);
+  /// Whether the cell is one of merged cells and not their first.
+  bool Covered(CellPlace place) const;
+
+  void InsertRows(int row, int count);
+  void CopyRows(int first, int last, Worksheet& target, int to) const;
+  void ClearRows(int first, int last);
+
   std::string name_;
   std::map<CellPlace, Cell> cells_;
+  // A cell in a row and a column that both have a format is always made, so that neither format
+  // has to give way.
   std::map<int, CellFormat> column_formats_;
+  std::map<int, CellFormat> row_formats_;
   std::map<int, double> column_widths_;
   std::map<int, double> row_heights_;
   std::vector<CellBlock> merged_;
@@ -269,17 +302,19 @@ class Workbook {
 
   /// A new sheet behind the last, with the next default name.
   Worksheet& Add();
-  /// Gives a sheet another name: at most 31 characters, none of them one of []:*?/\, and no other
-  /// sheet's; else error 1004.
+  /// Gives a sheet another name: 1 to 31 characters, none of them one of []:*?/\, no "'" at an end,
+  /// and no other sheet's; else error 1004.
   void Rename(Worksheet& sheet, std::string_view name);
   /// Takes a sheet out. The last one stays, which raises error 1004; a name that no sheet has
   /// raises error 9.
   void Delete(std::string_view name);
 
-  void Select(const Worksheet& sheet);
+  void Select(const Worksheet& sheet);                ///< error 9 for one of another workbook
   std::size_t selected() const { return selected_; }  ///< number of the selected sheet, from 1
 
  private:
+  std::list<Worksheet>::iterator Find(std::string_view name);
+
   std::list<Worksheet> sheets_;
   int made_ = 0;  ///< sheets so far, for the default names
   std::size_t selected_ = 1;
