@@ -69,7 +69,8 @@ class Picture {
 
   double width() const { return width_; }
   double height() const { return height_; }
-  int ground() const { return ground_; }  ///< the colour behind all shapes
+  /// The colour behind all shapes; -1 where what lies behind the picture shines through.
+  int ground() const { return ground_; }
   const std::vector<Shape>& shapes() const { return shapes_; }
 
   void Add(Shape shape) { shapes_.push_back(std::move(shape)); }
@@ -90,9 +91,12 @@ class PictureFiles {
   virtual ~PictureFiles() = default;
 
   /// Writes a picture in the format that the ending of the path names: "bmp" with a dot a unit,
-  /// "png" with more of them. The file is the old one or the new one. Raises RunTimeError: 5 for
-  /// another ending, and what the disk raises.
+  /// "png" with more of them; a ground that lets shine through is white in a "bmp". The file is the
+  /// old one or the new one. Raises RunTimeError: 5 for another ending, and what the disk raises.
   virtual void Save(const Picture& picture, const std::string& path) = 0;
+
+  /// The bytes of such a "png".
+  virtual std::string Png(const Picture& picture) = 0;
 };
 
 }  // namespace velmar

@@ -72,7 +72,9 @@ void Paint(QPainter& painter, const Picture& picture) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF sheet(0, 0, picture.width(), picture.height());
   painter.setClipRect(sheet, Qt::IntersectClip);
-  painter.fillRect(sheet, ToColour(picture.ground()));
+  if (picture.ground() >= 0) {
+    painter.fillRect(sheet, ToColour(picture.ground()));
+  }
   for (const Shape& shape : picture.shapes()) {
     std::visit([&painter](const auto& drawn) { Draw(painter, drawn); }, shape);
   }

@@ -19,15 +19,19 @@ namespace {
 struct Format {
   const char* name;
   double dots;  ///< a unit
+  bool clear;   ///< whether it knows grounds that let shine through
 };
+
+constexpr Format kBmp{"BMP", 1, false};
+constexpr Format kPng{"PNG", 2, true};
 
 Format FormatOf(const std::string& path) {
   const std::string name = Lower(path);
   if (name.ends_with(".bmp")) {
-    return {"BMP", 1};
+    return kBmp;
   }
   if (name.ends_with(".png")) {
-    return {"PNG", 2};
+    return kPng;
   }
   throw RunTimeError(ErrorNumber::kInvalidCall, path);
 }
@@ -46,13 +50,14 @@ void NeedFonts() {
   }
 }
 
-}  // namespace
-
-void QtPictureFiles::Save(const Picture& picture, const std::string& path) {
-  const Format format = FormatOf(path);
+/// The bytes of a file of a picture; `path` is told where they cannot be made.
+std::string BytesOf(const Picture& picture, const Format& format, const std::string& path) {
   NeedFonts();
+  const bool clear = format.clear && picture.ground() < 0;
   QImage image(static_cast<int>(std::ceil(picture.width() * format.dots)),
-               static_cast<int>(std::ceil(picture.height() * format.dots)), QImage::Format_RGB32);
+               static_cast<int>(std::ceil(picture.height() * format.dots)),
+               clear ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+  image.fill(clear ? Qt::transparent : Qt::white);
   QPainter painter(&image);
   painter.scale(format.dots, format.dots);
   Paint(painter, picture);
@@ -62,7 +67,17 @@ void QtPictureFiles::Save(const Picture& picture, const std::string& path) {
   if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format.name)) {
     throw RunTimeError(ErrorNumber::kDeviceError, path);
   }
-  files_.WriteAll(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  return bytes.toStdString();
+}
+
+}  // namespace
+
+void QtPictureFiles::Save(const Picture& picture, const std::string& path) {
+  files_.WriteAll(path, BytesOf(picture, FormatOf(path), path));
+}
+
+std::string QtPictureFiles::Png(const Picture& picture) {
+  return BytesOf(picture, kPng, "");
 }
 
 }  // namespace velmar

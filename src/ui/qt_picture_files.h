@@ -11,6 +11,7 @@ class QtPictureFiles : public PictureFiles {
   explicit QtPictureFiles(FileSystem& files) : files_(files) {}
 
   void Save(const Picture& picture, const std::string& path) override;
+  std::string Png(const Picture& picture) override;
 
  private:
   FileSystem& files_;

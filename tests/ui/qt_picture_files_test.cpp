@@ -40,6 +40,19 @@ TEST(QtPictureFiles, EveryShapeIsDrawnWhereItLies) {
   }
 }
 
+TEST(QtPictureFiles, AGroundOfNoneShinesThroughInAPng) {
+  TempWorkspace workspace;
+  QtPictureFiles files(workspace.files());
+  Picture picture(10, 10, -1);
+  picture.Add(Stroke{.points = {{5, 0}, {5, 10}}, .colour = colour::kRed, .width = 3});
+  const QImage image = QImage::fromData(QByteArray::fromStdString(files.Png(picture)), "PNG");
+  EXPECT_EQ(image.pixelColor(2, 10).alpha(), 0);
+  EXPECT_EQ(image.pixelColor(10, 10), QColor(255, 0, 0));
+  const std::string path = workspace.paths().base() + "/a.bmp";
+  files.Save(picture, path);
+  EXPECT_EQ(QImage(ToDiskName(path)).pixelColor(1, 5), QColor(255, 255, 255));
+}
+
 TEST(QtPictureFiles, AnotherFormatIsRefused) {
   TempWorkspace workspace;
   EXPECT_THROW(

@@ -129,6 +129,7 @@ class ScriptPictures : public PictureFiles {
   ScriptPictures(std::string folder, PictureFiles& files, RecordSink sink)
       : folder_(std::move(folder)), files_(files), sink_(std::move(sink)) {}
   void Save(const Picture& picture, const std::string& path) override;
+  std::string Png(const Picture& picture) override { return files_.Png(picture); }
 
  private:
   std::string folder_;

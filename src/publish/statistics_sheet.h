@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/workbook.h"
+#include "publish/classification_sheet.h"
+
+namespace velmar {
+
+/// Adds the sheet "2IT-STAT" behind the last: the contest on one page, out of the text of the
+/// statistics. `italy_png` is laid over the map of squares; `status` is told what is being done.
+void CreateStatisticsSheet(Workbook& book, std::string_view statistics, const SheetTexts& texts,
+                           const std::string& italy_png,
+                           const std::function<void(std::string_view status)>& status);
+
+}  // namespace velmar
