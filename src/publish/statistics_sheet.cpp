@@ -216,9 +216,10 @@ void WriteTotals(Worksheet& sheet) {
 }
 
 void AddChart(Worksheet& sheet) {
-  SheetChart chart{.place = {{54, 1}, {65, 16}},
-                   .categories = {{kAreasRow, kFirstArea}, {kAreasRow, kLastArea}},
-                   .title = "Partecipazione per call area"};
+  SheetChart chart;
+  chart.place = {{54, 1}, {65, 16}};
+  chart.categories = {{kAreasRow, kFirstArea}, {kAreasRow, kLastArea}};
+  chart.title = "Partecipazione per call area";
   for (const int row : {kAbsentRow, kLogsRow, kOnAirRow}) {
     chart.series.push_back({{row, 1}, {{row, kFirstArea}, {row, kLastArea}}});
   }
