@@ -16,7 +16,7 @@ namespace {
 constexpr double kSquareWidth = 72;
 constexpr double kSquareHeight = 34;
 
-constexpr double kLineWidth = 2.2;
+constexpr double kLineWidth = 1.8;
 constexpr int kLineColour = map_colour::Rgb(0, 84, 166);
 constexpr int kClear = -1;
 

@@ -1,6 +1,5 @@
 #include "publish/square_grid.h"
 
-#include <cmath>
 #include <string>
 
 #include "model/lines.h"
@@ -18,6 +17,7 @@ constexpr double kNameSize = 7;
 constexpr double kFieldSize = 9;
 constexpr int kNameColour = Rgb(70, 70, 70);
 constexpr int kFieldColour = Rgb(0, 70, 140);
+constexpr int kWhite = Rgb(255, 255, 255);
 constexpr int kYellowIndex = 6;
 
 constexpr double kWestEnd = -180;
@@ -105,7 +105,8 @@ void MarkDxSquares(Worksheet& sheet, std::string_view statistics) {
     }
     for (const std::string_view square : {Mid(line, 16, 4), Mid(line, 48, 4)}) {
       if (const auto cell = CellOfSquare(square)) {
-        sheet.Cells(cell->row, cell->column).Interior(map_colour::kRed);
+        SheetRange end = sheet.Cells(cell->row, cell->column).Interior(map_colour::kRed);
+        end.Font().Bold(true).Color(kWhite);
       }
     }
   }

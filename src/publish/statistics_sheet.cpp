@@ -20,26 +20,29 @@ constexpr std::string_view kBodyFont = "Bookman Old Style";
 constexpr double kBodySize = 7.5;
 
 /// Sixteen of them, and the heights below, fill a page of A4.
-constexpr double kColumnWidth = 6.14;
+constexpr double kColumnWidth = 7.14;
 
 struct RowHeights {
   std::string_view rows;
   double height;
 };
 
-constexpr RowHeights kRowHeights[] = {{"1:1", 22},   {"2:2", 16},   {"3:3", 4},    {"4:13", 12},
+constexpr RowHeights kRowHeights[] = {{"1:1", 20},   {"2:2", 14},   {"3:3", 4},    {"4:13", 12},
                                       {"9:9", 4},    {"14:16", 3},  {"17:17", 13}, {"38:38", 4},
                                       {"39:39", 12}, {"40:50", 11}, {"43:43", 3},  {"47:47", 3},
-                                      {"51:51", 11}, {"52:52", 13}, {"53:53", 4},  {"54:65", 12}};
+                                      {"51:51", 11}, {"52:52", 13}, {"53:53", 12}, {"54:65", 10.5}};
 
 struct FixedText {
   std::string_view cells;  ///< merged where they are more than one
   std::string_view text;
 };
 
+constexpr std::string_view kParticipation = "Partecipazione per call area";
+
 constexpr FixedText kHeadings[] = {
     {"A2:P2", "Statistica"},
-    {"B4:O4", "Partecipazione per call area"},
+    {"B4:O4", kParticipation},
+    {"A53:P53", kParticipation},  // over the chart
     {"A17:P17",
      "Mappa degli squares collegati, in rosso gli squares del qso DX (se il DX è fuori mappa, non "
      "è visibile)"_a}};
@@ -140,6 +143,7 @@ void WriteTitles(Worksheet& sheet, const SheetTexts& texts) {
 
 /// Frames of the two tables, with the texts at their edges.
 void WriteTables(Worksheet& sheet) {
+  constexpr double kCallSize = 6.5;  // eight characters fill a cell
   for (const std::string_view table :
        {"A6:A8", "B5:O8", "B10:D13", "E13:G13", "I10:L13", "M10:O13"}) {
     sheet_style::Frame(sheet.Range(table));
@@ -151,6 +155,8 @@ void WriteTables(Worksheet& sheet) {
   for (const std::string_view value : {"K10:L10", "K11:L11", "K12:L12", "K13:L13"}) {
     sheet.Range(value).Merge();
   }
+  sheet.Range("K10").NumberFormat("#,##0");
+  sheet.Range("D13:G13").Font().Size(kCallSize);
   sheet.Range("B5:O5").Interior(sheet_style::kHeadGround).Font().Bold(true);
   int column = kFirstArea;
   for (const CallArea area : kPrintedAreas) {
@@ -217,9 +223,8 @@ void WriteTotals(Worksheet& sheet) {
 
 void AddChart(Worksheet& sheet) {
   SheetChart chart;
-  chart.place = {{54, 1}, {65, 16}};
+  chart.place = {{54, kFirstArea}, {65, kLastArea}};
   chart.categories = {{kAreasRow, kFirstArea}, {kAreasRow, kLastArea}};
-  chart.title = "Partecipazione per call area";
   for (const int row : {kAbsentRow, kLogsRow, kOnAirRow}) {
     chart.series.push_back({{row, 1}, {{row, kFirstArea}, {row, kLastArea}}});
   }
