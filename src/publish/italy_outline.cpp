@@ -21,11 +21,11 @@ constexpr int kLineColour = map_colour::Rgb(0, 84, 166);
 constexpr int kClear = -1;
 
 Point OnPicture(const GeoPoint& place) {
-  using namespace square_grid;
-  const double column = (place.longitude - kNorthWest.longitude) / kDegreesWide;
-  const double row = (kNorthWest.latitude - place.latitude) / kDegreesHigh;
-  return {(column - (kItaly.first.column - kCells.first.column)) * kSquareWidth,
-          (row - (kItaly.first.row - kCells.first.row)) * kSquareHeight};
+  namespace grid = square_grid;
+  const double column = (place.longitude - grid::kNorthWest.longitude) / grid::kDegreesWide;
+  const double row = (grid::kNorthWest.latitude - place.latitude) / grid::kDegreesHigh;
+  return {(column - (grid::kItaly.first.column - grid::kCells.first.column)) * kSquareWidth,
+          (row - (grid::kItaly.first.row - grid::kCells.first.row)) * kSquareHeight};
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <map>
 #include <span>
 
+#include "model/columns.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -44,6 +45,9 @@ struct ActivityLine {
 constexpr ActivityLine kLines[] = {
     {"Log da sqr JN", 1}, {"Attivi da  JN", 2}, {"Attivi da  JM", 2}};
 
+constexpr Column kSquare{12, 4};
+constexpr std::size_t kCountStart = 19;
+
 /// Writes the names, and gives the place of each.
 std::map<std::string_view, CellPlace> WriteBlocks(Worksheet& sheet) {
   std::map<std::string_view, CellPlace> places;
@@ -71,9 +75,10 @@ void WriteSquareActivity(Worksheet& sheet, std::string_view statistics) {
   LineReader lines(statistics);
   for (std::string_view line; lines.Next(line);) {
     for (const auto& [key, row] : kLines) {
-      const auto place = places.find(Mid(line, 12, 4));
+      const auto place = places.find(Cut(line, kSquare));
       if (Holds(line, key) && place != places.end()) {
-        sheet.Cells(place->second.row + row, place->second.column).Value(Val(Mid(line, 19)));
+        sheet.Cells(place->second.row + row, place->second.column)
+            .Value(Val(Mid(line, kCountStart)));
       }
     }
   }

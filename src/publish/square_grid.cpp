@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "model/columns.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "publish/map_colours.h"
@@ -22,6 +23,11 @@ constexpr int kYellowIndex = 6;
 
 constexpr double kWestEnd = -180;
 constexpr double kSouthEnd = -90;
+
+// Of the lines of the statistics.
+constexpr Column kWorkedSquare{16, 4};
+constexpr Column kOwnSquare{16, 4};  ///< of the DX
+constexpr Column kOtherSquare{48, 4};
 
 /// The parts of the fields on the grid. The first square of each tells its field by its letters.
 constexpr std::string_view kFields[] = {"A18:C22", "D18:M22", "N18:P22", "A23:C32", "D23:M32",
@@ -91,7 +97,7 @@ void MarkWorkedSquares(Worksheet& sheet, std::string_view statistics) {
     if (!Holds(line, "Squares")) {
       continue;
     }
-    if (const auto cell = CellOfSquare(Mid(line, 16, 4))) {
+    if (const auto cell = CellOfSquare(Cut(line, kWorkedSquare))) {
       sheet.Cells(cell->row, cell->column).InteriorColorIndex(kYellowIndex);
     }
   }
@@ -103,7 +109,7 @@ void MarkDxSquares(Worksheet& sheet, std::string_view statistics) {
     if (!Holds(line, "QSO DX")) {
       continue;
     }
-    for (const std::string_view square : {Mid(line, 16, 4), Mid(line, 48, 4)}) {
+    for (const std::string_view square : {Cut(line, kOwnSquare), Cut(line, kOtherSquare)}) {
       if (const auto cell = CellOfSquare(square)) {
         SheetRange end = sheet.Cells(cell->row, cell->column).Interior(map_colour::kRed);
         end.Font().Bold(true).Color(kWhite);

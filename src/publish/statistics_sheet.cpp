@@ -1,8 +1,9 @@
 #include "publish/statistics_sheet.h"
 
-#include <algorithm>
+#include <utility>
 #include <variant>
 
+#include "model/columns.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -71,33 +72,31 @@ constexpr int kOnAirRow = 8;
 constexpr int kFirstArea = 2;
 constexpr int kLastArea = kFirstArea + static_cast<int>(kPrintedAreas.size()) - 1;
 
-/// A value of the statistics: the columns `start` on of each line that holds `key` anywhere; the
-/// last such line counts.
+/// A value of the statistics, out of each line that holds `key` anywhere; the last such line
+/// counts.
 struct KeyedValue {
   std::string_view key;
   CellPlace cell;
-  std::size_t start;
-  std::size_t width;
+  Column columns;
 };
 
 constexpr KeyedValue kValues[] = {
-    {"Log totali", {10, 4}, 16, 3},    {"Qso totali", {11, 4}, 16, 4},
-    {"QRB DX", {12, 4}, 16, 8},        {"QSO DX", {13, 4}, 16, 8},
-    {"QSO DX", {13, 5}, 24, 8},        {"QSO DX", {13, 6}, 36, 8},
-    {"QSO DX", {13, 7}, 48, 6},        {"QRB Totale", {10, 11}, 16, 8},
-    {"Call in aria", {11, 11}, 16, 3}, {"Call esteri", {12, 11}, 16, 3},
-    {"Call ita", {13, 11}, 16, 3},     {"Locatori", {10, 15}, 16, 3},
-    {"SQR. tot", {11, 15}, 16, 3},     {"Field", {12, 15}, 16, 3},
-    {"Paesi totali", {13, 15}, 16, 3}};
+    {"Log totali", {10, 4}, {16, 3}},    {"Qso totali", {11, 4}, {16, 4}},
+    {"QRB DX", {12, 4}, {16, 8}},        {"QSO DX", {13, 4}, {16, 8}},
+    {"QSO DX", {13, 5}, {24, 8}},        {"QSO DX", {13, 6}, {36, 8}},
+    {"QSO DX", {13, 7}, {48, 6}},        {"QRB Totale", {10, 11}, {16, 8}},
+    {"Call in aria", {11, 11}, {16, 3}}, {"Call esteri", {12, 11}, {16, 3}},
+    {"Call ita", {13, 11}, {16, 3}},     {"Locatori", {10, 15}, {16, 3}},
+    {"SQR. tot", {11, 15}, {16, 3}},     {"Field", {12, 15}, {16, 3}},
+    {"Paesi totali", {13, 15}, {16, 3}}};
 
-constexpr std::size_t kAreaStart = 19;
-constexpr std::size_t kAreaWidth = 3;  ///< a count of a thousand loses its last digit
+constexpr Column kAreaCount{19, 3};  ///< a count of a thousand loses its last digit
 
-/// What is told under the map, of the Italian calls on the air.
+/// Tells how to read the activity of the squares.
 constexpr std::string_view kNote =
     "LOG da = il numero di log ricevuti da om di quello squares                QSO con = il numero "
     "di tutti i qso effettuati con quello squares";
-constexpr int kTotalsRow = 52;
+constexpr int kTotalsRow = 52;  ///< of the Italian calls on the air
 
 std::string_view HeadOf(CallArea area) {
   return area == CallArea::kI9 ? "IT9" : NameOf(area);
@@ -167,16 +166,16 @@ void WriteTables(Worksheet& sheet) {
 void FillTables(Worksheet& sheet, std::string_view statistics) {
   LineReader lines(statistics);
   for (std::string_view line; lines.Next(line);) {
-    for (const auto& [key, cell, start, width] : kValues) {
+    for (const auto& [key, cell, columns] : kValues) {
       if (Holds(line, key)) {
-        Write(sheet.Cells(cell.row, cell.column), Mid(line, start, width));
+        Write(sheet.Cells(cell.row, cell.column), Cut(line, columns));
       }
     }
     int column = kFirstArea;
     for (const CallArea area : kPrintedAreas) {
       for (const auto& [key, row] : {std::pair("air ", kOnAirRow), std::pair("ivi ", kLogsRow)}) {
         if (Holds(line, Join(key, NameOf(area)))) {
-          Write(sheet.Cells(row, column), Mid(line, kAreaStart, kAreaWidth));
+          Write(sheet.Cells(row, column), Cut(line, kAreaCount));
         }
       }
       ++column;
