@@ -7,6 +7,7 @@
 #include "intake/renaming.h"
 #include "model/contest_store.h"
 #include "publish/area_classifications.h"
+#include "publish/export_form.h"
 #include "publish/statistics.h"
 #include "session/config_dialog.h"
 #include "session/contest_session.h"
@@ -47,10 +48,10 @@ struct Program::Modules {
               .classify_areas = [this] { area_classifications.cla_x_callarea_Click(); },
               .open_statistics = [this] { statistics.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
-    for (Form* form : std::initializer_list<Form*>{&main, &month_dialog.form(), &config.form(),
-                                                   &recalculation.form(), &renaming.form(), &check,
-                                                   &statistics_form, &desk.archive_form(),
-                                                   &desk.notices_form(), &absent.form(), &info}) {
+    for (Form* form : std::initializer_list<Form*>{
+             &main, &month_dialog.form(), &config.form(), &recalculation.form(), &renaming.form(),
+             &check, &statistics_form, &export_form, &desk.archive_form(), &desk.notices_form(),
+             &absent.form(), &info}) {
       screen.Add(*form);
     }
   }
@@ -60,6 +61,7 @@ struct Program::Modules {
   MainForm main;
   CheckForm check;
   StatisticsForm statistics_form;
+  ExportForm export_form;
   InfoForm info;
   ContestStore store;
   MenuTrap trap;
@@ -118,6 +120,10 @@ CheckDesk& Program::check_desk() {
 
 StatisticsForm& Program::statistics_form() {
   return modules_->statistics_form;
+}
+
+ExportForm& Program::export_form() {
+  return modules_->export_form;
 }
 
 AbsentStations& Program::absent_stations() {

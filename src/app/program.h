@@ -11,6 +11,7 @@ namespace velmar {
 class AbsentStations;
 class CheckDesk;
 class ConfigDialog;
+class ExportForm;
 struct InfoForm;
 class MainForm;
 class MonthDialog;
@@ -42,6 +43,7 @@ class Program {
   Renaming& renaming();
   CheckDesk& check_desk();
   StatisticsForm& statistics_form();
+  ExportForm& export_form();
   AbsentStations& absent_stations();
   InfoForm& info_form();
 

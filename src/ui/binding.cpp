@@ -47,14 +47,18 @@ QString MarkOf(std::optional<int> colour, const QString& at_yellow) {
   }
 }
 
+QString MarkOfButton(std::optional<int> colour) {
+  return MarkOf(colour, QStringLiteral("? "));
+}
+
 /// Buttons of all kinds: the caption, the tick, the click.
-BindingPtr BindButton(QAbstractButton& widget, Control& control, EventRunner& runner) {
+BindingPtr BindButton(QAbstractButton& widget, Control& control, EventRunner& runner,
+                      QString (*mark_of)(std::optional<int> colour) = MarkOfButton) {
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&control, &runner] {
     Act(runner, control, [](Control& clicked) { clicked.Click(); });
   });
-  return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control] {
-    const QString mark = MarkOf(control.colour, QStringLiteral("? "));
-    SetText(widget, mark + ToQString(control.caption));
+  return std::make_unique<WidgetBinding>(widget, control, runner, [&widget, &control, mark_of] {
+    SetText(widget, mark_of(control.colour) + ToQString(control.caption));
     widget.setChecked(control.checked);
   });
 }
@@ -109,6 +113,13 @@ bool Shows(const Control& control) {
 BindingPtr Bind(QPushButton& widget, Button& control, EventRunner& runner) {
   widget.setAutoDefault(true);  // so that Enter presses the button that has the focus
   return BindButton(widget, control, runner);
+}
+
+BindingPtr BindRun(QPushButton& widget, Button& control, EventRunner& runner) {
+  widget.setAutoDefault(true);
+  return BindButton(widget, control, runner, [](std::optional<int> colour) {
+    return colour ? QStringLiteral("✓ ") : QString();
+  });
 }
 
 BindingPtr Bind(QCheckBox& widget, Check& control, EventRunner& runner) {

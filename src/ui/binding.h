@@ -89,6 +89,9 @@ BindingPtr Bind(QPlainTextEdit& widget, TextField& control, EventRunner& runner,
 /// White is what was left out.
 BindingPtr BindLamp(QLabel& widget, Label& control, EventRunner& runner);
 
+/// A button whose colour, whichever, tells that its run is done: the mark is a tick.
+BindingPtr BindRun(QPushButton& widget, Button& control, EventRunner& runner);
+
 /// A picture, which is to be seen with or without a text.
 BindingPtr BindPicture(QLabel& widget, Label& control, EventRunner& runner);
 

@@ -7,6 +7,7 @@
 #include "check/check_desk.h"
 #include "intake/renaming.h"
 #include "platform/ansi.h"
+#include "publish/export_form.h"
 #include "publish/statistics_form.h"
 #include "session/info_form.h"
 #include "ui/absent_window.h"
@@ -14,6 +15,7 @@
 #include "ui/check_window.h"
 #include "ui/config_window.h"
 #include "ui/event_runner.h"
+#include "ui/export_window.h"
 #include "ui/info_page.h"
 #include "ui/look.h"
 #include "ui/main_window.h"
@@ -37,6 +39,7 @@ Desktop::Desktop(Program& program, EventRunner& runner, Manager& manager)
   Add(std::make_unique<ArchiveWindow>(program.check_desk().archive_form(), runner));
   Add(std::make_unique<NoticesWindow>(program.check_desk().notices_form(), runner));
   Add(std::make_unique<StatisticsWindow>(program.statistics_form(), runner));
+  Add(std::make_unique<ExportWindow>(program.export_form(), runner));
   Add(std::make_unique<AbsentWindow>(program.absent_stations().form(), runner));
   Add(std::make_unique<InfoPage>(program.info_form(), runner));
   program.screen().on_visibility = [this](Form& form) { ShowOrHide(form); };

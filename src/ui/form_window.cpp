@@ -114,6 +114,12 @@ QLabel* FormWindow::MakeLamp(Label& control) {
   return label;
 }
 
+QPushButton* FormWindow::MakeRunButton(Button& control) {
+  auto* button = new QPushButton;
+  AddBinding(BindRun(*button, control, runner_));
+  return button;
+}
+
 QLabel* FormWindow::MakeEmblem(Label& control) {
   auto* emblem = new Emblem;
   AddBinding(BindPicture(*emblem, control, runner_));

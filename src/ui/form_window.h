@@ -66,6 +66,7 @@ class FormWindow : public QMainWindow {
   GridView* MakeGridView(Grid& control, FirstColumn first);
 
   QLabel* MakeLamp(Label& control);
+  QPushButton* MakeRunButton(Button& control);
   QLabel* MakeEmblem(Label& control);
   void MakeMenu();
 

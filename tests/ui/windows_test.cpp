@@ -17,6 +17,7 @@
 #include <set>
 
 #include "platform/ansi.h"
+#include "publish/export_form.h"
 #include "publish/statistics_form.h"
 #include "ui/row_view.h"
 #include "ui_fixture.h"
@@ -89,6 +90,7 @@ const WindowCase kWindows[] = {
     {"CheckLogs", DeskOf, ShowLogs},
     {"Archive", [](Program& program) -> Form& { return program.check_desk().archive_form(); }},
     {"Notices", [](Program& program) -> Form& { return program.check_desk().notices_form(); }},
+    {"Export", [](Program& program) -> Form& { return program.export_form(); }},
     {"StatisticsCounts", StatisticsOf, ShowCounts},
     {"StatisticsMap", StatisticsOf, ShowMap},
     {"StatisticsNoMapYet", StatisticsOf, ShowNoMapYet},
