@@ -63,6 +63,11 @@ bool NameLess(std::string_view left, std::string_view right) {
   return left.size() != right.size() ? left.size() < right.size() : left < right;
 }
 
+bool SameName(std::string_view left, std::string_view right) {
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [](char a, char b) { return Fold(a) == Fold(b); });
+}
+
 bool HoldsFiles(FileSystem& files, const std::string& folder, std::string_view pattern) {
   return files.FolderExists(folder) && !files.List(folder, pattern).empty();
 }

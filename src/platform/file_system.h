@@ -71,6 +71,9 @@ bool MatchesPattern(std::string_view name, std::string_view pattern);
 /// they stand.
 bool NameLess(std::string_view left, std::string_view right);
 
+/// Whether two names differ in the case of their letters at most.
+bool SameName(std::string_view left, std::string_view right);
+
 /// Whether `folder` holds a file that fits `pattern`. A missing folder holds none.
 bool HoldsFiles(FileSystem& files, const std::string& folder, std::string_view pattern = "*.*");
 

@@ -40,10 +40,6 @@ CellPlace EndOf(std::string_view text) {
   return end;
 }
 
-bool SameName(std::string_view left, std::string_view right) {
-  return !NameLess(left, right) && !NameLess(right, left);
-}
-
 }  // namespace
 
 SheetRange Worksheet::Cells(int row, int column) {
@@ -120,10 +116,8 @@ Workbook::Workbook(int sheets) {
 }
 
 std::list<Worksheet>::iterator Workbook::Find(std::string_view name) {
-  const auto sheet = std::find_if(sheets_.begin(), sheets_.end(), [&](const Worksheet& other) {
-    return SameName(other.name(), name);
-  });
-  return sheet;
+  return std::find_if(sheets_.begin(), sheets_.end(),
+                      [&](const Worksheet& sheet) { return SameName(sheet.name(), name); });
 }
 
 Worksheet& Workbook::Sheet(std::size_t number) {

@@ -21,6 +21,9 @@ struct Pixels {
   double height = 0;
 };
 
+/// A trifle more than one, for scales: rounding may not let a picture end within its last cell.
+constexpr double kMore = 1 + 1e-9;
+
 class SheetWriter {
  public:
   SheetWriter(lxw_workbook* file, lxw_worksheet* to, const Worksheet& sheet, XlsxFormats& formats)
@@ -255,8 +258,8 @@ void SheetWriter::Place(const SheetPicture& picture) {
   }
   constexpr double kScreen = 96;  // dots an inch
   const Pixels block = PixelsOf(picture.place);
-  placed->x_scale = block.width / (placed->width * kScreen / placed->x_dpi);
-  placed->y_scale = block.height / (placed->height * kScreen / placed->y_dpi);
+  placed->x_scale = kMore * block.width / (placed->width * kScreen / placed->x_dpi);
+  placed->y_scale = kMore * block.height / (placed->height * kScreen / placed->y_dpi);
 }
 
 void SheetWriter::Place(const SheetChart& chart) {
@@ -283,8 +286,8 @@ void SheetWriter::Place(const SheetChart& chart) {
   constexpr double kHeight = 288;
   const Pixels block = PixelsOf(chart.place);
   lxw_chart_options options{};
-  options.x_scale = block.width / kWidth;
-  options.y_scale = block.height / kHeight;
+  options.x_scale = kMore * block.width / kWidth;
+  options.y_scale = kMore * block.height / kHeight;
   MindWriter(worksheet_insert_chart_opt(to_, Row(chart.place.first.row),
                                         Column(chart.place.first.column), made, &options));
 }
