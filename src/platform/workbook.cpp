@@ -86,12 +86,12 @@ const CellFormat& Worksheet::FormatAt(CellPlace place) const {
 }
 
 const CellFormat& Worksheet::Inherited(CellPlace place) const {
-  static const CellFormat kUsual;
+  static const CellFormat usual;
   if (const auto row = row_formats_.find(place.row); row != row_formats_.end()) {
     return row->second;
   }
   const auto column = column_formats_.find(place.column);
-  return column != column_formats_.end() ? column->second : kUsual;
+  return column != column_formats_.end() ? column->second : usual;
 }
 
 Cell& Worksheet::Made(CellPlace place) {

@@ -106,6 +106,7 @@ struct CellPlace {
   int row = 1;
   int column = 1;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the check misreads a comparison that is made.
   auto operator<=>(const CellPlace&) const = default;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/xlsx_app.h"
 
+#include <locale.h>
 #include <xlsxwriter.h>
 
 #include <cstdint>
@@ -45,6 +46,23 @@ class PrivateFolder {
 
  private:
   std::string path_;
+};
+
+/// Numbers with a point while it lives: the library writes them in the manner of the user's
+/// language, and a file with commas in them is damaged.
+class PlainNumbers {
+ public:
+  PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), former_(uselocale(plain_)) {}
+  ~PlainNumbers() {
+    uselocale(former_);
+    freelocale(plain_);
+  }
+  PlainNumbers(const PlainNumbers&) = delete;
+  PlainNumbers& operator=(const PlainNumbers&) = delete;
+
+ private:
+  locale_t plain_;
+  locale_t former_;
 };
 
 /// Raises error 1004 where the folder's disk has no room for the parts of the file: the library
@@ -101,6 +119,7 @@ void WriteSheets(lxw_workbook* file, const Workbook& book) {
 }
 
 std::string XlsxBytes(const Workbook& book) {
+  const PlainNumbers numbers;
   const PrivateFolder folder;
   MindRoom(book, folder.path());
   const std::string path = folder.path() + "/book.xlsx";

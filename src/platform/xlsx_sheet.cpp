@@ -168,10 +168,12 @@ void SheetWriter::WriteText(CellPlace place, const std::string& text, const Cell
     return;
   }
   std::vector<lxw_rich_string_tuple> tuples;
+  tuples.reserve(parts.size());
   for (auto& [part, format] : parts) {
     tuples.push_back({format, part.data()});
   }
   std::vector<lxw_rich_string_tuple*> list;
+  list.reserve(parts.size() + 1);
   for (lxw_rich_string_tuple& tuple : tuples) {
     list.push_back(&tuple);
   }
