@@ -15,6 +15,7 @@
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/disk_file_system.h"
+#include "platform/xlsx_app.h"
 #include "player/script_ports.h"
 #include "session/contest_session.h"
 #include "session/main_form.h"
@@ -44,9 +45,11 @@ std::string FindAbsent(const std::string& base) {
   ScriptWeb web(facts, nullptr);
   ScriptPrinter printer(facts, nullptr);
   QtPictureFiles pictures(files);
+  XlsxApp workbooks(files);
   Screen screen;
   MainForm main;
-  AbsentStations absent(session, {files, manager, clock, machine, web, printer, pictures}, screen,
+  AbsentStations absent(session,
+                        {files, manager, clock, machine, web, printer, pictures, workbooks}, screen,
                         main, nullptr);
   absent.Verifica_assenti_Click();
   if (manager.boxes != 0 || absent.form().Lista.items.rows().empty()) {

@@ -15,6 +15,7 @@
 #include "model/text.h"
 #include "model/workspace.h"
 #include "platform/disk_file_system.h"
+#include "platform/xlsx_app.h"
 #include "player/script_ports.h"
 #include "ui/qt_picture_files.h"
 
@@ -82,12 +83,14 @@ class Desk {
   ScriptWeb web_{facts_, nullptr};
   ScriptPrinter printer_{facts_, nullptr};
   QtPictureFiles pictures_{files_};
+  XlsxApp workbooks_{files_};
   ContestStore store_{files_, session_.workspace};
   Screen screen_;
   MainForm main_;
-  CheckDesk desk_{session_, {files_, manager, clock_, machine_, web_, printer_, pictures_},
-                  store_,   screen_,
-                  main_,    form};
+  CheckDesk desk_{
+      session_, {files_, manager, clock_, machine_, web_, printer_, pictures_, workbooks_},
+      store_,   screen_,
+      main_,    form};
 };
 
 /// All that happens from the double click on a log until its doubts are shown.

@@ -21,6 +21,7 @@
 #include "model/workspace.h"
 #include "platform/disk_file_system.h"
 #include "platform/file_system.h"
+#include "platform/xlsx_app.h"
 #include "player/script_ports.h"
 #include "session/main_form.h"
 #include "ui/qt_picture_files.h"
@@ -86,8 +87,8 @@ class Way {
   Way(const Workspace& paths, FileSystem& files)
       : paths_(paths),
         files_(files),
-        program_(paths.base(), Ports{files, manager, clock_, machine_, web_, printer_, pictures_}) {
-  }
+        program_(paths.base(),
+                 Ports{files, manager, clock_, machine_, web_, printer_, pictures_, workbooks_}) {}
 
   /// From the start of the program to the named logs.
   void Name() {
@@ -126,6 +127,7 @@ class Way {
   ScriptWeb web_{facts_, nullptr};
   ScriptPrinter printer_{facts_, nullptr};
   QtPictureFiles pictures_{files_};
+  XlsxApp workbooks_{files_};
   Program program_;
 };
 

@@ -7,6 +7,7 @@
 #include "intake/renaming.h"
 #include "model/contest_store.h"
 #include "publish/area_classifications.h"
+#include "publish/excel_export.h"
 #include "publish/export_form.h"
 #include "publish/statistics.h"
 #include "session/config_dialog.h"
@@ -37,6 +38,7 @@ struct Program::Modules {
         area_classifications(session, ports.files, ports.manager, trap),
         statistics(session, ports, screen, main, statistics_form, [this] { absent.Open(); }),
         absent(session, ports, screen, main, [this] { statistics.Open(); }),
+        exporting(session, ports, screen, main, export_form),
         info_window(screen, info),
         leaving(session, ports.files, ports.manager, main),
         menu(session, ports.files, ports.manager, trap, screen, main, months,
@@ -46,7 +48,8 @@ struct Program::Modules {
               .open_absent = [this] { absent.Open(); },
               .open_info = [this] { info_window.Open(); },
               .classify_areas = [this] { area_classifications.cla_x_callarea_Click(); },
-              .open_statistics = [this] { statistics.Open(); }}),
+              .open_statistics = [this] { statistics.Open(); },
+              .open_export = [this] { exporting.Open(); }}),
         start_up(session, ports, trap, screen, main, info, months, month_dialog) {
     for (Form* form : std::initializer_list<Form*>{
              &main, &month_dialog.form(), &config.form(), &recalculation.form(), &renaming.form(),
@@ -75,6 +78,7 @@ struct Program::Modules {
   AreaClassifications area_classifications;
   Statistics statistics;
   AbsentStations absent;
+  ExcelExport exporting;
   InfoWindow info_window;
   Leaving leaving;
   MainMenu menu;

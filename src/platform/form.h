@@ -31,6 +31,10 @@ enum class ControlKind {
 
 /// Colours as the numbers that the program uses: red in the lowest byte, then green, then blue.
 namespace colour {
+constexpr int Rgb(int red, int green, int blue) {
+  return red | green << 8 | blue << 16;
+}
+
 inline constexpr int kBlack = 0;
 inline constexpr int kRed = 255;
 inline constexpr int kGreen = 65280;

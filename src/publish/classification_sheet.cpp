@@ -9,14 +9,13 @@
 #include "model/text.h"
 #include "platform/ansi.h"
 #include "platform/error.h"
+#include "platform/form.h"
 
 namespace velmar {
 
 namespace {
 
-constexpr int Rgb(int red, int green, int blue) {
-  return red + green * 0x100 + blue * 0x10000;
-}
+using colour::Rgb;
 
 /// A column of the sheet: what of a row of the classification stands in it, as it stands there. The
 /// fields begin a column later or end earlier than those of the row here and there, and that is
@@ -87,7 +86,7 @@ void WriteTitles(Worksheet& sheet, const std::string& title) {
   sheet.Range("A2:M2").Merge().Font().Size(14).Bold(false).Color(Rgb(0, 0, 0));
   Centre(sheet.Range("A2:M2"));
   sheet.Range("A3:C3").Interior(Rgb(213, 255, 232)).Merge();
-  Centre(sheet.Range("D3:J3").WrapText(false));
+  Centre(sheet.Range("D3:J3").WrapText(false).Merge());
   sheet.Range("K3:M3").Interior(Rgb(255, 167, 167)).Merge();
   sheet.Range("3:3").RowHeight(11);
   sheet.Range("D3:J3").Font().Size(8);
@@ -169,6 +168,8 @@ void InsertHead(Worksheet& sheet, int first) {
   const int end = target + kHeadRows - 1;
   sheet.Range(Across(end, end)).Borders(xl::kEdgeBottom, xl::kThin);
   sheet.Cells(first, kLegendColumn).Value(kLegend);
+  // With the usual height the row behind the legend would be a page of its own.
+  sheet.Range(Rows(first + 1, target - 1)).RowHeight(5);
 }
 
 /// Breaks the ranking into pages of 60 logs. Behind the fourth block it goes on without breaks, and

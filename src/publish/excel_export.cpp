@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "model/columns.h"
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
@@ -212,7 +213,7 @@ bool ExcelExport::Begin() {
     return false;
   }
   step_ = 3;
-  statistics_possible_ = ports_.workbooks.Version() >= kLowestWorkbookVersion;
+  statistics_possible_ = session_.excel_major_version >= kLowestWorkbookVersion;
   if (!statistics_possible_) {
     ports_.manager.Show({.lines = {" versione excel non compatibile"}});
   }

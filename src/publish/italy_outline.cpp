@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "publish/map_colours.h"
+#include "platform/form.h"
 #include "publish/map_outlines.h"
 #include "publish/square_grid.h"
 
@@ -17,7 +17,7 @@ constexpr double kSquareWidth = 72;
 constexpr double kSquareHeight = 34;
 
 constexpr double kLineWidth = 1.8;
-constexpr int kLineColour = map_colour::Rgb(0, 84, 166);
+constexpr int kLineColour = colour::Rgb(0, 84, 166);
 constexpr int kClear = -1;
 
 Point OnPicture(const GeoPoint& place) {

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "platform/form.h"
+
 namespace velmar::map_colour {
 
 /// The colours of the backgrounds of the maps: quiet ones, and none is near a mark's, which has
 /// those of the windows.
 
-constexpr int Rgb(int red, int green, int blue) {
-  return red | green << 8 | blue << 16;
-}
+using colour::Rgb;
 
 inline constexpr int kSea = Rgb(214, 226, 234);
 inline constexpr int kLand = Rgb(240, 238, 230);

@@ -7,7 +7,7 @@
 #include "model/lines.h"
 #include "model/text.h"
 #include "platform/ansi.h"
-#include "publish/map_colours.h"
+#include "platform/form.h"
 #include "publish/sheet_style.h"
 
 namespace velmar {

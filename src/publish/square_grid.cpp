@@ -5,20 +5,19 @@
 #include "model/columns.h"
 #include "model/lines.h"
 #include "model/text.h"
-#include "publish/map_colours.h"
+#include "platform/form.h"
 
 namespace velmar {
 
 namespace {
 
-using map_colour::Rgb;
+using colour::Rgb;
 
 constexpr double kRowHeight = 17;
 constexpr double kNameSize = 7;
 constexpr double kFieldSize = 9;
 constexpr int kNameColour = Rgb(70, 70, 70);
 constexpr int kFieldColour = Rgb(0, 70, 140);
-constexpr int kWhite = Rgb(255, 255, 255);
 constexpr int kYellowIndex = 6;
 
 constexpr double kWestEnd = -180;
@@ -111,8 +110,8 @@ void MarkDxSquares(Worksheet& sheet, std::string_view statistics) {
     }
     for (const std::string_view square : {Cut(line, kOwnSquare), Cut(line, kOtherSquare)}) {
       if (const auto cell = CellOfSquare(square)) {
-        SheetRange end = sheet.Cells(cell->row, cell->column).Interior(map_colour::kRed);
-        end.Font().Bold(true).Color(kWhite);
+        SheetRange end = sheet.Cells(cell->row, cell->column).Interior(colour::kRed);
+        end.Font().Bold(true).Color(colour::kWhite);
       }
     }
   }

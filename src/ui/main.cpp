@@ -5,6 +5,7 @@
 
 #include "app/program.h"
 #include "platform/disk_file_system.h"
+#include "platform/xlsx_app.h"
 #include "ui/desktop.h"
 #include "ui/event_runner.h"
 #include "ui/look.h"
@@ -37,8 +38,9 @@ int Run(char* arguments[]) {
   QtWeb web;
   QtPrinter printer(runner);
   QtPictureFiles pictures(files);
+  XlsxApp workbooks(files);
   Program program(FromDiskName(QDir::currentPath()),
-                  {files, manager, clock, machine, web, printer, pictures});
+                  {files, manager, clock, machine, web, printer, pictures, workbooks});
   Desktop desktop(program, runner, manager);
   return desktop.Run();
 }

@@ -161,13 +161,15 @@ struct DeskFixture {
   FakeWeb web;
   RecordingPrinter printer;
   RecordingPictures pictures;
+  RecordingWorkbooks workbooks{files};
   ContestSession session{workspace.paths().base()};
   Screen screen;
   MainForm main;
   ContestStore store{files, session.workspace};
   CheckForm form;
-  CheckDesk desk{
-      session, {files, manager, clock, machine, web, printer, pictures}, store, screen, main, form};
+  CheckDesk desk{session, {files, manager, clock, machine, web, printer, pictures, workbooks},
+                 store,   screen,
+                 main,    form};
 };
 
 /// The box of an error that a procedure of the desk ends with.

@@ -504,13 +504,13 @@ TEST(UniqueCheck, TheManagerIsAskedToWaitDuringTheSearch) {
   WaitingManager manager;
   CheckForm form;
   manager.form = &form;
-  CheckDesk watched{
-      desk.session,
-      {desk.files, manager, desk.clock, desk.machine, desk.web, desk.printer, desk.pictures},
-      desk.store,
-      desk.screen,
-      desk.main,
-      form};
+  CheckDesk watched{desk.session,
+                    {desk.files, manager, desk.clock, desk.machine, desk.web, desk.printer,
+                     desk.pictures, desk.workbooks},
+                    desk.store,
+                    desk.screen,
+                    desk.main,
+                    form};
   watched.Open();
   form.Option3.Click();
   form.listacall_banda.selection = 1;

@@ -17,6 +17,7 @@ std::string Classification(int logs) {
   for (int i = 0; i < logs; ++i) {
     rows.push_back(ClassificationRow({.call = Join("IK2Q", 100 + i),
                                       .locator = "JN45AA",
+                                      .height = "200",
                                       .antenna = "9 el",
                                       .power = 100,
                                       .qsos = "312",
@@ -59,7 +60,7 @@ TEST(ClassificationSheet, ARowIsCutAsItStands) {
   for (int column = 2; column <= 13; ++column) {
     cells.push_back(filled.Text(5, column));
   }
-  EXPECT_EQ(cells, (Names{"IK2Q100     ", "JN45AA", "312 ", "123456 ", "100 ", "*EA8QA     ",
+  EXPECT_EQ(cells, (Names{"IK2Q100     ", "JN45AA", "312 ", "123456 ", "100 ", "*EA8QA      ",
                           "2987 ", cells[7], "120000   ", cells[9], cells[10], cells[11]}));
   EXPECT_EQ(Trim(cells[9]), "3");
   EXPECT_EQ(Trim(cells[10]), "1200");

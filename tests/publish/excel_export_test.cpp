@@ -18,6 +18,7 @@ struct ExportDesk : StatisticsDesk {
     screen.Add(menu);
     screen.Add(export_form);
     clock.timer = 36'061;
+    session.excel_major_version = 16;
   }
 
   ExportDesk& Exported() {
@@ -44,7 +45,6 @@ struct ExportDesk : StatisticsDesk {
 
   MainForm menu;
   ExportForm export_form;
-  RecordingWorkbooks workbooks{files};
   ExcelExport exporting{session,
                         {files, manager, clock, machine, web, printer, pictures, workbooks},
                         screen,

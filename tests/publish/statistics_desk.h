@@ -95,14 +95,16 @@ struct StatisticsDesk {
   FakeWeb web;
   RecordingPrinter printer;
   RecordingPictures pictures;
+  RecordingWorkbooks workbooks{files};
   ContestSession session{workspace.paths().base()};
   Screen screen;
   StatisticsForm main;
   StatisticsForm form;
   int absent_opened = 0;
-  Statistics statistics{session, {files, manager, clock, machine, web, printer, pictures},
-                        screen,  main,
-                        form,    [this] { ++absent_opened; }};
+  Statistics statistics{
+      session, {files, manager, clock, machine, web, printer, pictures, workbooks},
+      screen,  main,
+      form,    [this] { ++absent_opened; }};
 };
 
 }  // namespace velmar::test

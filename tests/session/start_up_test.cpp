@@ -23,14 +23,15 @@ constexpr const char* kClassification =
 /// One run of the program up to the end of its start.
 struct StartedProgram {
   StartedProgram(const std::string& base, FileSystem& files, Manager& manager, Clock& clock,
-                 Machine& machine, Web& web, Printer& printer, PictureFiles& pictures)
+                 Machine& machine, Web& web, Printer& printer, PictureFiles& pictures,
+                 WorkbookApp& workbooks)
       : session(base),
         trap(manager),
         config(session, files, manager, trap, screen, main, check),
         dialog(session, files, manager, trap, clock, screen, main, config),
         months(session, files, manager, trap, clock),
-        start(session, {files, manager, clock, machine, web, printer, pictures}, trap, screen, main,
-              info, months, dialog) {
+        start(session, {files, manager, clock, machine, web, printer, pictures, workbooks}, trap,
+              screen, main, info, months, dialog) {
     for (Form* form : std::initializer_list<Form*>{&main, &dialog.form(), &config.form()}) {
       screen.Add(*form);
     }
@@ -62,7 +63,7 @@ class StartUpTest : public testing::Test {
  protected:
   StartedProgram& Start() {
     run = std::make_unique<StartedProgram>(workspace.paths().base(), files, manager, clock, machine,
-                                           web, printer, pictures);
+                                           web, printer, pictures, workbooks);
     return *run;
   }
 
@@ -80,6 +81,7 @@ class StartUpTest : public testing::Test {
   FakeWeb web;
   RecordingPrinter printer;
   RecordingPictures pictures;
+  RecordingWorkbooks workbooks{workspace.files()};
   std::unique_ptr<StartedProgram> run;
 };
 
@@ -233,7 +235,7 @@ TEST_F(StartUpTest, SystemsAndDatesThatAreRefused) {
 TEST_F(StartUpTest, RootsOfDrivesAreRefused) {
   for (const auto& [base, last] : std::map<std::string, std::string>{
            {"D:\\", "crea una directory e posta il programma"}, {"A:\\", "questo Drive"}}) {
-    StartedProgram at_root(base, files, manager, clock, machine, web, printer, pictures);
+    StartedProgram at_root(base, files, manager, clock, machine, web, printer, pictures, workbooks);
     EXPECT_TRUE(at_root.ended);
     EXPECT_TRUE(manager.boxes.back().lines[0].ends_with(last));
   }

@@ -33,8 +33,9 @@ struct DesktopFixture {
   FakeWeb web;
   RecordingPrinter printer;
   RecordingPictures pictures;
+  RecordingWorkbooks workbooks{workspace.files()};
   Program program{workspace.paths().base(),
-                  {workspace.files(), manager, clock, machine, web, printer, pictures}};
+                  {workspace.files(), manager, clock, machine, web, printer, pictures, workbooks}};
   Desktop desktop{program, runner, manager};
 
   FormWindow& Window(Form& form) { return *desktop.WindowOf(form); }

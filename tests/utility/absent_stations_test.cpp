@@ -69,14 +69,16 @@ struct AbsentDesk {
   FakeWeb web;
   RecordingPrinter printer;
   RecordingPictures pictures;
+  RecordingWorkbooks workbooks{files};
   ContestSession session{workspace.paths().base()};
   Screen screen;
   MainForm main;
   int statistics_opened = 0;
-  AbsentStations absent{
-      session, {files, manager, clock, machine, web, printer, pictures}, screen, main, [this] {
-        ++statistics_opened;
-      }};
+  AbsentStations absent{session,
+                        {files, manager, clock, machine, web, printer, pictures, workbooks},
+                        screen,
+                        main,
+                        [this] { ++statistics_opened; }};
   AbsentForm& form = absent.form();
 };
 

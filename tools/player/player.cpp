@@ -67,7 +67,8 @@ Player::Player(const std::string& workspace, std::ostream& out, std::ostream& er
       web_(facts_, [this](const JsonRecord& record) { Record(record); }),
       printer_(facts_, [this](const JsonRecord& record) { Record(record); }),
       picture_files_(files_),
-      pictures_(workspace, picture_files_, [this](const JsonRecord& record) { Record(record); }) {}
+      pictures_(workspace, picture_files_, [this](const JsonRecord& record) { Record(record); }),
+      workbooks_(files_) {}
 
 PlayResult Player::Play(std::istream& script) {
   std::string line;
@@ -186,7 +187,7 @@ bool Player::QueueAnswer(const std::string& word, const std::string& rest) {
 
 void Player::Start(const std::string& /*rest*/) {
   program_ = std::make_unique<Program>(
-      workspace_, Ports{files_, manager_, clock_, machine_, web_, printer_, pictures_});
+      workspace_, Ports{files_, manager_, clock_, machine_, web_, printer_, pictures_, workbooks_});
   program_->screen().on_visibility = [this](const Form& form) {
     Record(JsonRecord().Text("form", form.name()).Flag("visible", form.visible()));
   };

@@ -11,6 +11,7 @@
 
 #include "app/program.h"
 #include "platform/disk_file_system.h"
+#include "platform/xlsx_app.h"
 #include "player/script_ports.h"
 #include "ui/qt_picture_files.h"
 
@@ -87,6 +88,7 @@ class Player {
   ScriptPrinter printer_;
   QtPictureFiles picture_files_;
   ScriptPictures pictures_;
+  XlsxApp workbooks_;
   std::unique_ptr<Program> program_;
   bool forced_ = false;  ///< the command in hand reaches controls that a person could not
 };
