@@ -36,6 +36,7 @@ class MainMenuTest : public testing::Test {
   MonthAssignment months{session, workspace.files(), manager, trap, clock};
   int opened = 0;
   int opened_info = 0;
+  int exports = 0;
   MainMenu menu{session,
                 workspace.files(),
                 manager,
@@ -51,7 +52,8 @@ class MainMenuTest : public testing::Test {
                        ++opened;
                      },
                  .open_absent = [this] { NoteOpening(); },
-                 .open_info = [this] { ++opened_info; }}};
+                 .open_info = [this] { ++opened_info; },
+                 .open_export = [this] { ++exports; }}};
 };
 
 TEST_F(MainMenuTest, TheRecalculationOpensAndIsToldOfLogsInItsWay) {
@@ -105,6 +107,7 @@ TEST_F(MainMenuTest, TheWorkbookHasItsGatesInOrder) {
   const std::string cla = "Trofeo_Velmar/2IT/2IT Classifica Mensile 144 gennaio 2025.cla";
   workspace.With(cla, Join(unchecked, "\r\n", checked, "\r\nshort\r\n"));
   EXPECT_EQ(refusal(), "") << "the header row does not count";
+  EXPECT_EQ(exports, 2);
   workspace.With(cla, Join("header\r\n", checked, "\r\n", unchecked));
   EXPECT_EQ(refusal(), " NON sono terminati i controlli. Opzione non eseguibile");
 }
