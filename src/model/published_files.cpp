@@ -82,6 +82,10 @@ std::string PublishedFiles::zone_calls(std::string_view category, bool italian,
                       "  ", month_, ".mes"));
 }
 
+std::string PublishedFiles::workbook_name() const {
+  return Join("Velmar 144_Classifica Mese di ", month_, ".xlsx");
+}
+
 std::string PublishedFiles::year_squares(std::string_view band_label) const {
   return InStore(Join(band_label, " Squares_anno.ann"));
 }

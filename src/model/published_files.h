@@ -40,6 +40,9 @@ class PublishedFiles {
   /// The calls that the stations of a zone worked, the Italian or the foreign ones.
   std::string zone_calls(std::string_view category, bool italian, std::string_view zone) const;
 
+  /// The workbook's name, which lies beside the program and in the folder of the category.
+  std::string workbook_name() const;
+
   // The lists of squares that are kept over a year.
   std::string year_squares(std::string_view band_label) const;
   std::string earlier_squares(std::string_view band_label) const;  ///< before this month

@@ -11,6 +11,7 @@
 #include "publish/area_sheets.h"
 #include "publish/export_messages.h"
 #include "publish/italy_outline.h"
+#include "publish/month_files.h"
 #include "publish/statistics_sheet.h"
 #include "session/version.h"
 #include "session/workbook_version.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr std::string_view kClassification = "2IT-144";
 constexpr std::string_view kPrintedCopy = "2IT-TUTTO";
-constexpr std::string_view kFilePrefix = "Velmar ";
 constexpr std::string_view kEnding = ".xlsx";
 constexpr std::array<std::string_view, 3> kPlaceHolders = {"1EC-50M", "1IT-50M", "2EC-144"};
 
@@ -143,17 +143,17 @@ void ExcelExport::torna_casa_Click() {
   screen_.Show(main_);
 }
 
-PublishedFiles ExcelExport::Published() const {
-  return {session_.workspace, session_.category_month};
-}
-
 /// A path beside the program.
 std::string ExcelExport::Beside(std::string_view name) const {
   return Join(session_.workspace.base(), "/", name);
 }
 
+std::string ExcelExport::InCategory() const {
+  return Join(session_.workspace.category(), "/", FileName());
+}
+
 std::string ExcelExport::FileName() const {
-  return Join(kFilePrefix, "144_Classifica Mese di ", Lower(session_.category_month), kEnding);
+  return MonthFiles(session_).workbook_name();
 }
 
 /// The moment as a file name can have it.
@@ -323,7 +323,7 @@ void ExcelExport::MakePrintedCopy() {
 
 void ExcelExport::MakeStatistics() {
   Progress(kInStatistics, kStages);
-  const std::string statistics = ports_.files.ReadAll(Published().statistics());
+  const std::string statistics = ports_.files.ReadAll(MonthFiles(session_).statistics());
   CreateStatisticsSheet(*book_, statistics, texts_, ports_.pictures.Png(ItalyOutline()),
                         [this](std::string_view status) { Status(status); });
 }
@@ -352,7 +352,7 @@ void ExcelExport::MakeAreas() {
                        {.read =
                             [this](CallArea area) {
                               return ReadIfThere(ports_.files,
-                                                 Published().area_classification(area));
+                                                 MonthFiles(session_).area_classification(area));
                             },
                         .status = [this](std::string_view text) { Status(text); },
                         .progress = [this](int done, int areas) { Progress(done, areas); }});
@@ -366,8 +366,7 @@ void ExcelExport::Checkpoint(std::string_view name) {
 }
 
 void ExcelExport::RemoveOld() {
-  for (const std::string& path :
-       {Join(session_.workspace.category(), "/", FileName()), Beside(FileName())}) {
+  for (const std::string& path : {InCategory(), Beside(FileName())}) {
     try {
       ports_.files.Remove(path);
     } catch (const RunTimeError& error) {
@@ -401,7 +400,7 @@ void ExcelExport::Finish() {
                                  SecondsText(ports_.clock.Timer() - start_), "  secondi");
   Status("");
   step_ = 21;
-  ports_.files.Copy(Beside(FileName()), Join(session_.workspace.category(), "/", FileName()));
+  ports_.files.Copy(Beside(FileName()), InCategory());
   step_ = 22;
   ports_.manager.Show({.lines = {" Procedura terminata correttamente.",
                                  Join(" File salvato in     : ", session_.workspace.base()),

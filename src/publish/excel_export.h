@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 
-#include "model/published_files.h"
 #include "platform/ports.h"
 #include "platform/workbook.h"
 #include "publish/classification_sheet.h"
@@ -65,7 +64,7 @@ class ExcelExport {
   std::string Moment();
   std::string Beside(std::string_view name) const;
   std::string FileName() const;
-  PublishedFiles Published() const;
+  std::string InCategory() const;
 
   ContestSession& session_;
   Ports ports_;

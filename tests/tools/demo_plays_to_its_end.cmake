@@ -10,7 +10,7 @@ string(JOIN ".*" story
   "The first classification" "The checked classification" "The error list of" "FINAL SCORE"
   "busted_call +7 of 7 proposed" "missing_qso +7 of 7 proposed" "classifiche Velmar per call area"
   "Il proprietario del DX" "Log totali     55" "Squares collegati = [1-9]" "QSOs, [1-9][0-9]* km"
-  "55 filed logs")
+  "Procedura terminata correttamente" "55 filed logs")
 if(NOT told MATCHES "${story}")
   message(FATAL_ERROR "the story lacks a part of: ${story}")
 endif()

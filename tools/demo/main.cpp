@@ -159,7 +159,7 @@ void Run(const std::string& folder) {
   Heading("The first classification");
   ShowText(files, workspace.classification(kMonth));
   CheckLogs(files, workspace, faults);
-  const std::string map = PublishContest(files, workspace, std::string(kMonth));
+  const Publication published = PublishContest(files, workspace, std::string(kMonth));
 
   Heading("What was made");
   const auto count = [&](const std::string& path, std::string_view pattern) {
@@ -169,8 +169,8 @@ void Run(const std::string& folder) {
             << workspace.category() << "\n  " << count(RefusedFolder(workspace), "*.*")
             << " refused logs in " << RefusedFolder(workspace)
             << "\n  the classifications by call area and the statistics beside the store"
-            << "\n  the map in " << map << "\n  the list of planted faults in " << workspace.base()
-            << "/guasti_piantati.txt\n";
+            << "\n  the map in " << published.map << "\n  the workbook in " << published.workbook
+            << "\n  the list of planted faults in " << workspace.base() << "/guasti_piantati.txt\n";
 }
 
 }  // namespace

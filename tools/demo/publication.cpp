@@ -71,7 +71,7 @@ void RebuildAbsentLog(PlayedProgram& program) {
 
 }  // namespace
 
-std::string PublishContest(FileSystem& files, const Workspace& workspace,
+Publication PublishContest(FileSystem& files, const Workspace& workspace,
                            const std::string& month) {
   const PublishedFiles published(workspace, month);
   PlayedProgram program(workspace.base());
@@ -85,11 +85,18 @@ std::string PublishContest(FileSystem& files, const Workspace& workspace,
   ShowStatistics(program, files, published);
   DrawMap(program);
   RebuildAbsentLog(program);
+  Heading("The workbook of the month");
   program.Tell(
       "click VLM2M_10_assenti.usci\n"
+      "click CLA_mese_excel\n"
+      "click SI_stat\n"
+      "click SI_callarea\n"
+      "click crea_cla_band_xls_01\n"
+      "click torna_casa\n"
       "answer yes\n"
       "click VLM2M_01_input.esci\n");
-  return Join(workspace.base(), "/", kMapName);
+  return {.map = Join(workspace.base(), "/", kMapName),
+          .workbook = Join(workspace.base(), "/", published.workbook_name())};
 }
 
 }  // namespace velmar
