@@ -52,17 +52,16 @@ std::optional<Box> FatalExportBox(const RunTimeError& error, int step, std::stri
       return Box{
           .lines = {" Impossibile proseguire. sono stati cancellati alcuni valori nel registro",
                     " di automatizzazione nel registro di windows ,forse a causa di qualche ",
-                    " disinstallazione di qualche programma, non sono reperibili alcunifil e "
-                    "comuni.",
+                    Join(" disinstallazione di qualche programma, non sono reperibili ",
+                         "alcunifil e comuni."),
                     " Assicurati che sia installato e funzionante il programma excel", where,
                     " programma terminato. "}};
     case ErrorNumber::kLibraryMissing:
-      return Box{
-          .lines = {" Impossibile proseguire. sono mancanti alcuni riferimenti nel registro",
-                    " di automatizzazione del registro di windows,forse a causa di qualche ",
-                    " disinstallazione di qualche programma, non sono reperibili alcuni file "
-                    "comuni.",
-                    where, " programma terminato. "}};
+      return Box{.lines = {" Impossibile proseguire. sono mancanti alcuni riferimenti nel registro",
+                           " di automatizzazione del registro di windows,forse a causa di qualche ",
+                           Join(" disinstallazione di qualche programma, non sono reperibili ",
+                                "alcuni file comuni."),
+                           where, " programma terminato. "}};
     default:
       return std::nullopt;
   }
