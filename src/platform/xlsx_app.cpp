@@ -142,7 +142,8 @@ void XlsxApp::SaveAs(const Workbook& book, const std::string& path) {
     files_.WriteAll(path, bytes);
   } catch (const RunTimeError& error) {
     const bool denied = error.number() == ErrorNumber::kPermissionDenied ||
-                        error.number() == ErrorNumber::kPathFileAccess;
+                        (error.number() == ErrorNumber::kPathFileAccess &&
+                         !files_.FolderExists(path));  // a folder in the way denies nothing
     throw RunTimeError(denied ? ErrorNumber::kPermissionDenied : ErrorNumber::kWorkbookRefused,
                        error.what());
   }

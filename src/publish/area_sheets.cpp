@@ -48,6 +48,7 @@ void CreateCallAreaSheets(Workbook& book, const SheetTexts& texts,
                           const AreaSheetSources& sources) {
   constexpr int kAreas = std::size(kSheets);
   int done = 0;
+  sources.progress(done, kAreas);
   for (const auto& [area, name, title, status] : kSheets) {
     sources.status(Join(kCategory, status));
     const std::string classification = sources.read(area).value_or("");

@@ -45,7 +45,7 @@ constexpr std::array<SheetColumn, kColumns> kSheetColumns = {{{"", kNoField, 5},
                                                               {"Punti QRB", {106, 9}, 12}}};
 
 constexpr int kHeaderRow = 4;
-constexpr int kLastTableRow = 5'000;
+constexpr int kMostLogs = 5'000;
 constexpr int kLegendColumn = 7;
 constexpr std::string_view kLegend = " ( * = QSO Error )";
 constexpr std::string_view kContact =
@@ -115,7 +115,7 @@ void WriteBanner(Worksheet& sheet) {
   for (const Piece& piece : kPieces) {
     banner.Characters(
         piece.start, piece.length,
-        {.name = "Segoe Print", .size = piece.size, .bold = true, .colour = piece.colour});
+        {.name = "segoe Print", .size = piece.size, .bold = true, .colour = piece.colour});
   }
   SetLines(sheet.Range("A1:M4"), xl::kEdgeLeft, xl::kInsideHorizontal, xl::kThin);
   sheet.Range("4:4").RowHeight(21);
@@ -129,7 +129,7 @@ int WriteLogs(Worksheet& sheet, std::string_view classification) {
   std::string_view line;
   reader.Next(line);  // its own header, which the sheet's takes the place of
   while (reader.Next(line)) {
-    if (++row > kLastTableRow) {
+    if (++row > kHeaderRow + kMostLogs) {
       throw RunTimeError(ErrorNumber::kSubscript, "the table of the sheet");
     }
     sheet.Cells(row, 1).Value(std::to_string(row - kHeaderRow));

@@ -23,8 +23,8 @@ void SetUpClassificationSheet(Worksheet& sheet);
 
 /// Fills such a sheet with the rows of a classification (a text with its header line), ahead of
 /// that its title, banner and headers, behind it the formats, the blocks of 60 logs with the head
-/// repeated, the legend, and the page set-up. Gives the number of logs. More than the 5,001 rows of
-/// the table raise error 9.
+/// repeated, the legend, and the page set-up. Gives the number of logs. More than 5,000
+/// logs raise error 9.
 int FillClassificationSheet(Worksheet& sheet, std::string_view classification,
                             const std::string& title, const SheetTexts& texts);
 

@@ -46,6 +46,21 @@ bool IsMissing(const RunTimeError& error) {
          error.number() == ErrorNumber::kPathNotFound;
 }
 
+/// Gives the copy the pages of its source. Its margin is higher, so that the rows of its logs are a
+/// little lower.
+void KeepPages(const Worksheet& source, Worksheet& copy) {
+  constexpr double kLogRow = 11.25;
+  constexpr double kLowerRow = 11;
+  for (const int row : source.page_breaks()) {
+    copy.AddPageBreak(row);
+  }
+  for (const auto& [row, height] : source.row_heights()) {
+    if (height == kLogRow) {
+      copy.Range(Join(row, ":", row)).RowHeight(kLowerRow);
+    }
+  }
+}
+
 std::string SecondsText(double seconds) {
   std::array<char, 32> text{};
   const int length = std::snprintf(text.data(), text.size(), "%.2f", seconds);
@@ -255,31 +270,39 @@ void ExcelExport::Make() {
   book_->Sheet(1).selected = {};
 }
 
-void ExcelExport::ReadSource() {
+/// The content of a file; nothing where it, or its folder, is missing.
+std::optional<std::string> ExcelExport::ReadPresent(const std::string& path) {
   try {
-    classification_ =
-        ports_.files.ReadAll(session_.workspace.classification(session_.category_month));
+    return ports_.files.ReadAll(path);
   } catch (const RunTimeError& error) {
     if (!IsMissing(error)) {
       throw;
     }
-    classification_.reset();
+    return std::nullopt;
   }
+}
+
+void ExcelExport::ReadSource() {
+  classification_ = ReadPresent(session_.workspace.classification(session_.category_month));
   texts_ = {.month_title = MonthTitle(session_.category_month),
             .year = std::string(Right(session_.category_month, 4)),
-            .contest_date = classification_ ? ReadContestDate() : std::string(),
+            .contest_date = ReadContestDate(),
             .version = VersionDotted(),
             .no_printer = !ports_.printer.Installed()};
 }
 
-/// The date of the contest out of "2IT 250119".
+/// The date of the contest out of "2IT 250119". Only without a classification it may be missing.
 std::string ExcelExport::ReadContestDate() {
   constexpr Column kYear{5, 2};
   constexpr Column kMonth{7, 2};
   constexpr Column kDay{9, 2};
-  const std::string text = ports_.files.ReadAll(session_.workspace.contest_date(kCategory));
+  const std::string path = session_.workspace.contest_date(kCategory);
+  const auto text = classification_ ? ports_.files.ReadAll(path) : ReadPresent(path);
+  if (!text) {
+    return "";
+  }
   std::string_view line;
-  LineReader(text).Next(line);
+  LineReader(*text).Next(line);
   return Join("20", Cut(line, kYear), ".", Cut(line, kMonth), ".", Cut(line, kDay));
 }
 
@@ -312,6 +335,7 @@ void ExcelExport::MakePrintedCopy() {
     Worksheet& source = book_->Sheet(kClassification);
     const int last = source.LastRow(1) + kBehindLastRow;
     source.Range(Join("1:", last)).Copy(sheet.Range("1:1"));
+    KeepPages(source, sheet);
     source.selected = {.row = last, .column = 1};
   }
   if (!texts_.no_printer) {
@@ -323,9 +347,9 @@ void ExcelExport::MakePrintedCopy() {
 
 void ExcelExport::MakeStatistics() {
   Progress(kInStatistics, kStages);
-  const std::string statistics = ports_.files.ReadAll(MonthFiles(session_).statistics());
-  CreateStatisticsSheet(*book_, statistics, texts_, ports_.pictures.Png(ItalyOutline()),
-                        [this](std::string_view status) { Status(status); });
+  CreateStatisticsSheet(
+      *book_, [this] { return ports_.files.ReadAll(MonthFiles(session_).statistics()); }, texts_,
+      ports_.pictures.Png(ItalyOutline()), [this](std::string_view status) { Status(status); });
 }
 
 /// Takes a sheet out, save the last one of all: a workbook has at least one.
@@ -367,12 +391,16 @@ void ExcelExport::Checkpoint(std::string_view name) {
 
 void ExcelExport::RemoveOld() {
   for (const std::string& path : {InCategory(), Beside(FileName())}) {
+    if (!ports_.files.StampOf(path)) {
+      continue;
+    }
     try {
       ports_.files.Remove(path);
     } catch (const RunTimeError& error) {
-      if (!IsMissing(error)) {
-        throw;
-      }
+      // A file that is protected is told as one that somebody else holds.
+      throw error.number() == ErrorNumber::kPathFileAccess
+          ? RunTimeError(ErrorNumber::kPermissionDenied, path)
+          : error;
     }
   }
 }
@@ -410,11 +438,12 @@ void ExcelExport::Finish() {
 
 /// Keeps what there is under a name of its own, if the disk takes it: the box that follows tells
 /// that the workbook is not what it should be, and there is no more to tell.
-void ExcelExport::KeepAs(std::string_view name) {
+bool ExcelExport::KeepAs(std::string_view name) {
   try {
     Checkpoint(name);
+    return true;
   } catch (const RunTimeError&) {
-    Status("");
+    return false;
   }
 }
 
@@ -423,6 +452,7 @@ void ExcelExport::KeepUnfinished(const RunTimeError& error) {
   if (book_) {
     KeepAs("FILE_ ERRORE_Non_terminato_");
   }
+  Status("");
   ports_.manager.Show(UnfinishedBox(error, step_));
 }
 

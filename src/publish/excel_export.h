@@ -45,6 +45,7 @@ class ExcelExport {
   void Make();
   bool Begin();
   void ReadSource();
+  std::optional<std::string> ReadPresent(const std::string& path);
   std::string ReadContestDate();
   void MakeClassification();
   void MakePrintedCopy();
@@ -59,7 +60,7 @@ class ExcelExport {
   void Status(std::string_view text);
   void Progress(int value, int maximum);
   void Checkpoint(std::string_view name);
-  void KeepAs(std::string_view name);
+  bool KeepAs(std::string_view name);
   void Drop(std::string_view sheet);
   std::string Moment();
   std::string Beside(std::string_view name) const;

@@ -17,7 +17,8 @@ namespace {
 constexpr std::string_view kHeading = "A39:P39";
 constexpr int kLabelColumn = 1;
 
-/// The squares go from west to east, those under one another from north to south.
+/// The squares go from west to east, those under one another from north to south; what found no
+/// room in its place stands at the end.
 constexpr std::string_view kWest[] = {"JN35", "JN34", "JN33", "JN46", "JN45",
                                       "JN44", "JN43", "JN41", "JN40", "JN56",
                                       "JN55", "JN54", "JN53", "JN52", "JN51"};

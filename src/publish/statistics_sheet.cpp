@@ -232,8 +232,8 @@ void AddChart(Worksheet& sheet) {
 
 }  // namespace
 
-void CreateStatisticsSheet(Workbook& book, std::string_view statistics, const SheetTexts& texts,
-                           const std::string& italy_png,
+void CreateStatisticsSheet(Workbook& book, const std::function<std::string()>& read,
+                           const SheetTexts& texts, const std::string& italy_png,
                            const std::function<void(std::string_view status)>& status) {
   status(" stat 144 in corso");
   Worksheet& sheet = book.Add();
@@ -243,6 +243,7 @@ void CreateStatisticsSheet(Workbook& book, std::string_view statistics, const Sh
   SetUpSheet(sheet);
   WriteTitles(sheet, texts);
   WriteTables(sheet);
+  const std::string statistics = read();
   FillTables(sheet, statistics);
   status(" stat 144 squares in corso");
   DrawSquareGrid(sheet);

@@ -16,7 +16,7 @@ TEST(AreaSheets, EveryAreaHasItsSheetAlsoWithoutAParticipant) {
   const std::string one = TextOfLines(Names{header, ClassificationRow(entry)});
   Workbook book(1);
   Names statuses;
-  int done = 0;
+  int done = -1;
   CreateCallAreaSheets(
       book, {.month_title = "Gennaio ", .year = "2025", .contest_date = "", .version = ""},
       {.read =
@@ -26,7 +26,7 @@ TEST(AreaSheets, EveryAreaHasItsSheetAlsoWithoutAParticipant) {
                                             : std::nullopt;
            },
        .status = [&](std::string_view text) { statuses.emplace_back(text); },
-       .progress = [&](int made, int all) { done = made == done + 1 && all == 14 ? made : -1; }});
+       .progress = [&](int made, int all) { done = made == done + 1 && all == 14 ? made : -9; }});
   Names names;
   for (const Worksheet& sheet : book.sheets()) {
     names.push_back(sheet.name());

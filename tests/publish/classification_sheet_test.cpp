@@ -112,8 +112,8 @@ TEST(ClassificationSheet, WithoutALogThereAreHeadersOnly) {
   const FilledSheet filled(0);
   EXPECT_EQ(filled.sheet.LastRow(1), 4);
   EXPECT_EQ(filled.Text(5, 7), " ( * = QSO Error )");
-  EXPECT_EQ(FilledSheet(4996).count, 4996);
-  EXPECT_THROW(FilledSheet(4997), RunTimeError);
+  EXPECT_EQ(FilledSheet(5000).count, 5000);
+  EXPECT_THROW(FilledSheet(5001), RunTimeError);
 }
 
 }  // namespace

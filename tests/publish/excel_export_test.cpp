@@ -73,6 +73,7 @@ TEST(ExcelExport, TheWorkbookOfAMonth) {
   EXPECT_EQ(desk.export_form.Bar1.value, "54");
   const Workbook& book = desk.workbooks.saved.back().second;
   const Worksheet& copy = book.sheets().back();
+  EXPECT_EQ(copy.row_heights().at(5), 11);
   EXPECT_EQ(copy.cells().at({6, 2}).value, CellValue("IS0QBB      "));
   EXPECT_EQ(copy.cells().at({7, 7}).value, CellValue(" ( * = QSO Error )"));
   EXPECT_NEAR(copy.page_setup->top_margin, 0.197, 0.001);
@@ -116,6 +117,8 @@ TEST(ExcelExport, WithoutAClassificationItsSheetsGo) {
   desk.files.Remove(desk.session.workspace.classification("gennaio 2025"));
   EXPECT_EQ(book(false), (Names{"2EC-144"})) << "a workbook has one sheet at least";
   EXPECT_EQ(book(true), (Names{"2IT-STAT"}));
+  EXPECT_EQ(desk.workbooks.saved.back().second.sheets().front().page_setup->center_footer,
+            " Data contest = 2025.01.19");
   EXPECT_EQ(desk.manager.TakeFirstLines(), Names(2, " Procedura terminata correttamente."));
 }
 

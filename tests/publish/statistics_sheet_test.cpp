@@ -39,8 +39,9 @@ struct MadeSheet {
   explicit MadeSheet(const Names& statistics = kStatistics) {
     SheetTexts texts{
         .month_title = "Gennaio ", .year = "2025", .contest_date = "2025.01.19", .version = "1.0"};
-    CreateStatisticsSheet(book, TextOfLines(statistics), texts, "png",
-                          [this](std::string_view text) { statuses.emplace_back(text); });
+    CreateStatisticsSheet(
+        book, [&] { return TextOfLines(statistics); }, texts, "png",
+        [this](std::string_view text) { statuses.emplace_back(text); });
   }
 
   Worksheet& sheet() { return book.Sheet("2IT-STAT"); }
