@@ -34,11 +34,11 @@ int Run(char* arguments[]) {
   EventRunner runner;
   QtManager manager(runner);
   SystemClock clock;
-  QtMachine machine;
+  XlsxApp workbooks(files);
+  QtMachine machine(workbooks);
   QtWeb web;
   QtPrinter printer(runner);
   QtPictureFiles pictures(files);
-  XlsxApp workbooks(files);
   Program program(FromDiskName(QDir::currentPath()),
                   {files, manager, clock, machine, web, printer, pictures, workbooks});
   Desktop desktop(program, runner, manager);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/machine.h"
+#include "platform/workbook_app.h"
 
 namespace velmar {
 
@@ -10,15 +11,17 @@ namespace velmar {
 /// program writes workbooks by itself, as the version of the format that it writes.
 class QtMachine : public Machine {
  public:
+  explicit QtMachine(WorkbookApp& workbooks) : workbooks_(workbooks) {}
+
   bool Connected() override;
   std::optional<double> Ping() override;
   std::string ProductName() override;
   bool WorkbookRunning() override { return false; }
   void EndWorkbook() override {}
-  int WorkbookVersion() override { return kWorkbookVersion; }
+  int WorkbookVersion() override { return workbooks_.Version(); }
 
  private:
-  static constexpr int kWorkbookVersion = 16;
+  WorkbookApp& workbooks_;
 };
 
 /// The milliseconds in the output of the system's ping, which ends its line with "ms" on some

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
+#include "platform/xlsx_app.h"
 #include "publish/statistics_desk.h"
+#include "support/xlsx_file.h"
 
 namespace velmar::test {
 namespace {
@@ -106,6 +108,31 @@ TEST(ClassificationSheet, SixtyLogsFillAPage) {
   const FilledSheet many(400);
   EXPECT_EQ(many.sheet.page_breaks(), (std::set<int>{67, 133, 199, 265}));
   EXPECT_EQ(many.Text(4 + 400 + 4 * 6, 1), "400");
+}
+
+TEST(ClassificationSheet, TheFileHoldsWhatTheSheetHolds) {
+  TempWorkspace workspace;
+  Workbook book(1);
+  SetUpClassificationSheet(book.Sheet(1));
+  FillClassificationSheet(book.Sheet(1), Classification(61), "Titolo", kTexts);
+  const std::string path = workspace.paths().base() + "/classifica.xlsx";
+  XlsxApp(workspace.files()).SaveAs(book, path);
+  const XlsxSheet sheet = XlsxFile(path).sheets().at(0);
+  const Worksheet& made = book.Sheet(1);
+  for (const auto& [place, cell] : made.cells()) {
+    if (!std::holds_alternative<std::monostate>(cell.value) && cell.pieces.empty()) {
+      ASSERT_TRUE(sheet.cells.contains(place)) << place.row << "," << place.column;
+      EXPECT_EQ(sheet.cells.at(place).value, cell.value) << place.row << "," << place.column;
+      EXPECT_EQ(sheet.cells.at(place).format, cell.format) << place.row << "," << place.column;
+    }
+  }
+  EXPECT_EQ(sheet.page_breaks, (std::vector<int>{67}));
+  EXPECT_EQ(sheet.row_heights, made.row_heights());
+  EXPECT_EQ(sheet.merged.size(), 2 * 5U) << "five blocks of the head, twice";
+  EXPECT_EQ(sheet.column_widths.at(9), 0);
+  EXPECT_NEAR(sheet.column_widths.at(2), 14, 0.5);
+  EXPECT_EQ(sheet.footer, "&LVelmar 2025 - 0.0.8&C Data contest = 2025.01.19&Rpag. &P di &N");
+  EXPECT_FALSE(sheet.ignored.empty()) << "texts may look like numbers";
 }
 
 TEST(ClassificationSheet, WithoutALogThereAreHeadersOnly) {

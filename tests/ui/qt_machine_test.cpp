@@ -4,7 +4,9 @@
 
 #include <QRegularExpression>
 
+#include "platform/disk_file_system.h"
 #include "platform/error.h"
+#include "platform/xlsx_app.h"
 #include "ui/qt_web.h"
 #include "ui/system_clock.h"
 
@@ -22,7 +24,11 @@ TEST(QtMachine, ReadsThePingOfEverySystem) {
 }
 
 TEST(QtMachine, NamesTheSystem) {
-  EXPECT_FALSE(QtMachine().ProductName().empty());
+  DiskFileSystem files;
+  XlsxApp workbooks(files);
+  QtMachine machine(workbooks);
+  EXPECT_FALSE(machine.ProductName().empty());
+  EXPECT_EQ(machine.WorkbookVersion(), 16);
 }
 
 TEST(QtWeb, APageThatCannotBeHadIsADeviceError) {
