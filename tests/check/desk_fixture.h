@@ -12,8 +12,7 @@
 #include "model/store_rows.h"
 #include "model/text.h"
 #include "support/boxes.h"
-#include "support/doubles.h"
-#include "support/temp_workspace.h"
+#include "support/outside.h"
 
 namespace velmar::test {
 
@@ -36,7 +35,7 @@ struct FiledLog {
 
 /// The check desk on a workspace of its own, with the settings of a new one, where all messages are
 /// off.
-struct DeskFixture {
+struct DeskFixture : Outside {
   DeskFixture() {
     workspace.WithTree().WithSettings();
     session.category_month = "GENNAIO 2025";
@@ -153,23 +152,10 @@ struct DeskFixture {
     return Join(form.err_count.caption, " ", form.err_qrb.caption, " ", form.qrb_finale.caption);
   }
 
-  TempWorkspace workspace;
-  FailingFileSystem files{workspace.files()};
-  ScriptedManager manager;
-  FixedClock clock;
-  FakeMachine machine;
-  FakeWeb web;
-  RecordingPrinter printer;
-  RecordingPictures pictures;
-  RecordingWorkbooks workbooks{files};
-  ContestSession session{workspace.paths().base()};
-  Screen screen;
   MainForm main;
   ContestStore store{files, session.workspace};
   CheckForm form;
-  CheckDesk desk{session, {files, manager, clock, machine, web, printer, pictures, workbooks},
-                 store,   screen,
-                 main,    form};
+  CheckDesk desk{session, ports, store, screen, main, form};
 };
 
 /// The box of an error that a procedure of the desk ends with.

@@ -45,11 +45,7 @@ struct ExportDesk : StatisticsDesk {
 
   MainForm menu;
   ExportForm export_form;
-  ExcelExport exporting{session,
-                        {files, manager, clock, machine, web, printer, pictures, workbooks},
-                        screen,
-                        menu,
-                        export_form};
+  ExcelExport exporting{session, ports, screen, menu, export_form};
 };
 
 TEST(ExcelExport, TheWorkbookOfAMonth) {

@@ -10,8 +10,7 @@
 #include "model/text.h"
 #include "publish/statistics.h"
 #include "support/boxes.h"
-#include "support/doubles.h"
-#include "support/temp_workspace.h"
+#include "support/outside.h"
 
 namespace velmar::test {
 
@@ -24,7 +23,7 @@ struct StoredQso {
 };
 
 /// The statistics over a store of a few logs, in January 2025.
-struct StatisticsDesk {
+struct StatisticsDesk : Outside {
   StatisticsDesk() {
     workspace.WithTree().WithMonth("GENNAIO 2025");
     session.category_month = "GENNAIO 2025";
@@ -87,24 +86,10 @@ struct StatisticsDesk {
     return cells;
   }
 
-  TempWorkspace workspace;
-  FailingFileSystem files{workspace.files()};
-  ScriptedManager manager;
-  FixedClock clock;
-  FakeMachine machine;
-  FakeWeb web;
-  RecordingPrinter printer;
-  RecordingPictures pictures;
-  RecordingWorkbooks workbooks{files};
-  ContestSession session{workspace.paths().base()};
-  Screen screen;
   StatisticsForm main;
   StatisticsForm form;
   int absent_opened = 0;
-  Statistics statistics{
-      session, {files, manager, clock, machine, web, printer, pictures, workbooks},
-      screen,  main,
-      form,    [this] { ++absent_opened; }};
+  Statistics statistics{session, ports, screen, main, form, [this] { ++absent_opened; }};
 };
 
 }  // namespace velmar::test

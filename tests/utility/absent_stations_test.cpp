@@ -9,8 +9,7 @@
 #include "model/lines.h"
 #include "model/store_rows.h"
 #include "support/boxes.h"
-#include "support/doubles.h"
-#include "support/temp_workspace.h"
+#include "support/outside.h"
 
 namespace velmar::test {
 namespace {
@@ -18,7 +17,7 @@ namespace {
 constexpr const char* kCla = "Trofeo_Velmar/2IT/2IT Classifica Mensile 144 gennaio 2025.cla";
 constexpr AnsiView kPrintFailure = " si è verificato un errorenel modulo stampa, controlla"_a;
 
-struct AbsentDesk {
+struct AbsentDesk : Outside {
   AbsentDesk() {
     workspace.WithTree();
     session.category_month = "GENNAIO 2025";
@@ -61,24 +60,9 @@ struct AbsentDesk {
 
   std::string Scratch(const std::string& name) { return workspace.Read("Trofeo_Velmar/" + name); }
 
-  TempWorkspace workspace;
-  FailingFileSystem files{workspace.files()};
-  ScriptedManager manager;
-  FixedClock clock;
-  FakeMachine machine;
-  FakeWeb web;
-  RecordingPrinter printer;
-  RecordingPictures pictures;
-  RecordingWorkbooks workbooks{files};
-  ContestSession session{workspace.paths().base()};
-  Screen screen;
   MainForm main;
   int statistics_opened = 0;
-  AbsentStations absent{session,
-                        {files, manager, clock, machine, web, printer, pictures, workbooks},
-                        screen,
-                        main,
-                        [this] { ++statistics_opened; }};
+  AbsentStations absent{session, ports, screen, main, [this] { ++statistics_opened; }};
   AbsentForm& form = absent.form();
 };
 
