@@ -88,6 +88,18 @@ TEST(UniqueEvidence, TheBookIsAskedWhereAnythingIsSimilar) {
   EXPECT_EQ(FindEndInBook(book, "9A/IK2ABX"), Names{book[2] + " <-- Book"});
 }
 
+TEST(UniqueEvidence, OthersInTheLocatorAreShownAndGrouped) {
+  const Names library = Library({{"IV3QYY"}, {"I1QXX"}, {"DL1QAA", "JO30AA"}, {"I1QXX"}});
+  const Names rows = FindInLocator(Views(library), "JN44BC");
+  EXPECT_EQ(rows, (Names{"JN44BC    IV3QYY      IZ9QBC     *", "JN44BC    I1QXX       IZ9QBC     *",
+                         "JN44BC    I1QXX       IZ9QBC     *"}));
+  EXPECT_EQ(EachCallOnce(rows), (Names{rows[1], rows[0]}));
+  EXPECT_EQ(
+      EachCallOnce({"JN44BC    I1QXX       IZ9QBC     *", "JN44BC    I1QXX       IV3QYY     *"}),
+      Names{"JN44BC    I1QXX       IZ9QBC     *"});
+  EXPECT_EQ(FindInLocator(Views(library), "JN44BB"), Names{});
+}
+
 TEST(UniqueEvidence, TheBaseCallIsTheLongerSideOfASlash) {
   const struct {
     const char *call, *base;
