@@ -375,8 +375,7 @@ void ExcelExport::MakeAreas() {
   CreateCallAreaSheets(*book_, texts_,
                        {.read =
                             [this](CallArea area) {
-                              return ReadIfThere(ports_.files,
-                                                 MonthFiles(session_).area_classification(area));
+                              return ReadPresent(MonthFiles(session_).area_classification(area));
                             },
                         .status = [this](std::string_view text) { Status(text); },
                         .progress = [this](int done, int areas) { Progress(done, areas); }});
@@ -391,8 +390,8 @@ void ExcelExport::Checkpoint(std::string_view name) {
 
 void ExcelExport::RemoveOld() {
   for (const std::string& path : {InCategory(), Beside(FileName())}) {
-    if (!ports_.files.StampOf(path)) {
-      continue;
+    if (ports_.files.FolderExists(path) || !ports_.files.StampOf(path)) {
+      continue;  // saving tells of a folder in the way
     }
     try {
       ports_.files.Remove(path);
